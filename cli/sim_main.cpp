@@ -1,0 +1,72 @@
+// quorbit-sim: runs a level headless with a replay and prints its trace and result.
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "file_host.h"
+#include "sim_run.h"
+
+namespace {
+
+int Usage() {
+  std::cerr << "usage: quorbit-sim LEVEL.lvl [--replay FILE] [--max-cycles N] [--trace]"
+               " [--record FILE]\n";
+  return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qb::SimOptions options;
+  std::string recordPath;
+  for (int i = 1; i < argc; ++i) {
+    const std::string a = argv[i];
+    const auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
+    if (a == "--trace") {
+      options.trace = true;
+    } else if (a == "--replay") {
+      const char* path = value();
+      if (!path) return Usage();
+      const auto bytes = qb::ReadBytes(path);
+      if (!bytes) {
+        std::cerr << "cannot read the replay file " << path << "\n";
+        return 2;
+      }
+      options.replay = std::string(bytes->begin(), bytes->end());
+    } else if (a == "--max-cycles") {
+      const char* n = value();
+      if (!n) return Usage();
+      try {
+        std::size_t used = 0;
+        options.maxCycles = std::stol(n, &used);
+        if (used != std::string(n).size() || options.maxCycles < 0) throw std::invalid_argument(n);
+      } catch (const std::exception&) {
+        std::cerr << "--max-cycles takes a whole number of cycles, not \"" << n << "\"\n";
+        return 2;
+      }
+    } else if (a == "--record") {
+      const char* path = value();
+      if (!path) return Usage();
+      recordPath = path;
+    } else if (!a.empty() && a[0] == '-') {
+      return Usage();
+    } else if (options.level.empty()) {
+      options.level = a;
+    } else {
+      return Usage();
+    }
+  }
+  if (options.level.empty()) return Usage();
+  std::ios::sync_with_stdio(false);
+  const qb::SimOutcome outcome = qb::RunSimulation(options, std::cout, std::cerr);
+  std::cout.flush();
+  if (!recordPath.empty() && outcome.exitStatus != 2) {
+    std::ofstream file(recordPath, std::ios::binary);
+    file << "# recorded by quorbit-sim from " << options.level << "\n" << outcome.recording;
+    if (!file) {
+      std::cerr << "cannot write the recording to " << recordPath << "\n";
+      return 2;
+    }
+  }
+  return outcome.exitStatus;
+}

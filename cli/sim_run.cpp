@@ -1,0 +1,137 @@
+// The headless run of one level: ticks, the trace lines and the result.
+#include "sim_run.h"
+
+#include <memory>
+#include <ostream>
+
+#include "core/cycle.h"
+#include "core/loader.h"
+#include "file_host.h"
+#include "tools/replay.h"
+
+namespace qb {
+namespace {
+
+const char* ResultName(LevelEnd end) {
+  switch (end) {
+    case LevelEnd::Won:
+      return "won";
+    case LevelEnd::Lost:
+      return "lost";
+    case LevelEnd::Timeout:
+      return "timeout";
+    default:
+      return "running";
+  }
+}
+
+// The used area's kinds, column by column, to find what a cycle changed.
+std::vector<int16_t> UsedArea(const Game& g) {
+  std::vector<int16_t> kinds;
+  kinds.reserve(static_cast<std::size_t>(g.GridWidth * g.GridHeight));
+  for (int x = 0; x < g.GridWidth; ++x)
+    for (int y = 0; y < g.GridHeight; ++y) kinds.push_back(g.Grid(x, y));
+  return kinds;
+}
+
+void TraceLine(std::ostream& out, long t, const Game& g, std::vector<int16_t>& previous) {
+  out << "{\"t\":" << t << ",\"released\":" << g.CharactersReleased
+      << ",\"saved\":" << g.SavedCount << ",\"time\":" << g.TimeLeft << ",\"leader\":" << g.Leader
+      << ",\"stock\":[";
+  for (int i = 0; i < kToolCount; ++i) out << (i ? "," : "") << g.ToolStock(i);
+  out << "],\"tools\":[" << g.ClimbArmed << "," << g.Climbing << "," << g.Blocking << ","
+      << g.Building << "," << g.Bombing << "," << g.JumpStage << "," << g.Lasering << ","
+      << g.Tool5Countdown << "],\"chars\":[";
+  for (int i = 0; i < g.CharactersTotal; ++i) {
+    const CharRecord& c = g.Chars(i);
+    out << (i ? "," : "") << "[" << c.X << "," << c.Y << "," << c.Dir << "," << c.Out << ","
+        << c.FallCount << "," << c.Splatted << "," << c.Splashed << "," << c.Shocked << ","
+        << c.Trapped << "," << c.Teleporting << "]";
+  }
+  out << "],\"changed\":[";
+  const std::vector<int16_t> now = UsedArea(g);
+  bool first = true;
+  for (std::size_t i = 0; i < now.size(); ++i)
+    if (i >= previous.size() || now[i] != previous[i]) {
+      const int x = static_cast<int>(i) / g.GridHeight, y = static_cast<int>(i) % g.GridHeight;
+      out << (first ? "" : ",") << "[" << x << "," << y << "," << now[i] << "]";
+      first = false;
+    }
+  out << "]}\n";
+  previous = now;
+}
+
+}  // namespace
+
+SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostream& err) {
+  SimOutcome outcome;
+  ReplayFile replay;
+  if (options.replay) {
+    replay = ParseReplay(*options.replay);
+    if (!replay.error.empty()) {
+      err << "replay file: " << replay.error << "\n";
+      outcome.exitStatus = 2;
+      return outcome;
+    }
+  }
+  FileHost host;
+  std::string loadMessage;
+  host.onMessage = [&](const std::string& text) { loadMessage = text; };
+  auto game = std::make_unique<Game>(host);
+  Game& g = *game;
+  g.ui.OptionsChecked(OptSound) = false;
+  g.ui.OptionsChecked(OptReplay) = true;
+  g.ui.OptionsChecked(OptFastScrolling) = false;
+  g.ui.OptionsChecked(OptMusic) = false;
+  g.SkipTitle = True;
+  g.LevelFile = options.level;
+  if (LoadLevel(g, options.level) != LoadResult::Loaded) {
+    err << loadMessage << "\n";
+    outcome.exitStatus = 2;
+    return outcome;
+  }
+  for (int t = 0; t < kReplaySlots; ++t) g.ReplayLog(t) = replay.slots[static_cast<std::size_t>(t)];
+  g.ReplayPlaying = g.ReplayLog(0) != "E" ? True : False;
+  g.ReplayTick = 0;
+
+  // The level ends inside a cycle and the game moves on at once (a restart or the next level):
+  // the state at the moment the result screen opens is what this cycle reports.
+  std::unique_ptr<Game> atEnd;
+  host.onScreen = [&](Screen s) {
+    if (s == Screen::WinLevel || s == Screen::LooseLevel) {
+      if (!atEnd) atEnd = std::make_unique<Game>(g);
+      host.filesOpen = false;  // the run stops at the end of this level
+    }
+  };
+  host.onMessage = [](const std::string&) {};
+
+  std::vector<int16_t> previous = UsedArea(g);
+  long cycles = 0;
+  try {
+    while (cycles < options.maxCycles) {
+      const int tick = g.ReplayTick;
+      const std::string planned = g.ReplayLog(tick);
+      Timer1_Timer(g);
+      ++cycles;
+      const Game& shown = atEnd ? *atEnd : g;
+      if (options.trace) TraceLine(out, cycles - 1, shown, previous);
+      if (atEnd) {
+        if (!planned.empty()) outcome.recording += std::to_string(tick) + " " + planned + "\n";
+        break;
+      }
+      const std::string& done = g.ReplayLog(tick);
+      if (!done.empty() && done != "E") outcome.recording += std::to_string(tick) + " " + done + "\n";
+    }
+  } catch (const ProgramFault& fault) {
+    err << "program fault in cycle " << cycles << ": " << fault.what() << "\n";
+    outcome.exitStatus = 3;
+    return outcome;
+  }
+  const Game& last = atEnd ? *atEnd : g;
+  out << "{\"result\":\"" << ResultName(atEnd ? last.LastEnd : LevelEnd::None)
+      << "\",\"cycles\":" << cycles << ",\"saved\":" << last.SavedCount
+      << ",\"needed\":" << last.CharactersNeeded << ",\"total\":" << last.CharactersTotal << "}\n";
+  return outcome;
+}
+
+}  // namespace qb

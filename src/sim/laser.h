@@ -1,0 +1,10 @@
+// The leader's laser: a beam that grows one square a tick and explodes where it is stopped.
+#pragma once
+
+#include "core/game.h"
+
+namespace qb {
+
+void Lazer(Game& g);
+
+}  // namespace qb

@@ -1,0 +1,10 @@
+// Water and lava: the splash death.
+#pragma once
+
+#include "core/game.h"
+
+namespace qb {
+
+void Splash(Game& g, int index);
+
+}  // namespace qb

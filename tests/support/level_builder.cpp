@@ -1,0 +1,63 @@
+// Builds small levels for tests from rows of characters.
+#include "support/level_builder.h"
+
+#include <stdexcept>
+
+#include "core/cycle.h"
+#include "core/loader.h"
+
+namespace qb::test {
+
+int KindOf(char ch) {
+  if (ch == '#') return SoftWall;
+  if (ch == '.') return Empty;
+  static const std::string legend = ".1#okgbBMN~^!cCZDT";
+  const auto p = legend.find(ch);
+  if (p == std::string::npos) throw std::invalid_argument(std::string("no kind for ") + ch);
+  return static_cast<int>(p);
+}
+
+char CharOf(int kind) {
+  static const std::string legend = ".1#okgbBMN~^!cCZDT";
+  return legend.at(static_cast<std::size_t>(kind));
+}
+
+LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int total, int needed,
+                    int releaseInterval, int time) {
+  LevelData d;
+  d.Title = "Test";
+  d.Skill = 0;
+  d.Number = 1;
+  d.CharactersTotal = total;
+  d.CharactersNeeded = static_cast<int16_t>(needed);
+  d.TimeLeft = time;
+  d.GridWidth = static_cast<int16_t>(rows.at(0).size());
+  d.GridHeight = static_cast<int32_t>(rows.size());
+  d.ReleaseInterval = static_cast<int16_t>(releaseInterval);
+  d.Squares.assign(static_cast<std::size_t>(d.GridWidth * d.GridHeight), 0);
+  for (int y = 0; y < d.GridHeight; ++y)
+    for (int x = 0; x < d.GridWidth; ++x)
+      d.Square(x, y) = static_cast<int16_t>(KindOf(rows[static_cast<std::size_t>(y)].at(
+          static_cast<std::size_t>(x))));
+  d.Slots[0].EntranceActive = -1;
+  d.Slots[0].EntranceX = ex;
+  d.Slots[0].EntranceY = static_cast<int16_t>(ey);
+  return d;
+}
+
+TestGame::TestGame(const LevelData& level, bool titleCard) {
+  g.ui.OptionsChecked(OptSound) = true;
+  g.ui.OptionsChecked(OptReplay) = true;
+  host.files["test.lvl"] = WriteLevel(level);
+  g.LevelFile = "test.lvl";
+  g.SkipTitle = titleCard ? False : True;
+  g.ReplayLog(0) = "E";
+  if (LoadLevel(g, "test.lvl") != LoadResult::Loaded)
+    throw std::runtime_error("test level refused: " + (host.messages.empty() ? std::string("?") : host.messages.back()));
+}
+
+void TestGame::Ticks(int n) {
+  for (int i = 0; i < n; ++i) Timer1_Timer(g);
+}
+
+}  // namespace qb::test
