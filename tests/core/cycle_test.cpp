@@ -1,0 +1,97 @@
+// The game cycle: releases, slow motion, the replay tick, a level ending inside a cycle.
+#include <gtest/gtest.h>
+
+#include "core/cycle.h"
+#include "support/level_builder.h"
+#include "tools/use_tool.h"
+
+namespace qb {
+namespace {
+
+using test::MakeLevel;
+using test::TestGame;
+
+const std::vector<std::string> kLongFloor = {std::string(60, '.'), std::string(60, '.'),
+                                             std::string(60, '#')};
+
+TEST(Release, OneEveryIntervalCyclesFromTheFirstActiveSlotRoundRobin) {
+  LevelData d = MakeLevel(kLongFloor, 0, 1, 5, 0, 3);
+  d.Slots[0].EntranceActive = 0;
+  d.Slots[1] = {-1, 0, 0, 10, 1, 0, 0, 0, 0};
+  d.Slots[4] = {-1, 0, 0, 30, 1, 0, 0, 0, 0};
+  TestGame t(d);
+  t.Ticks(2);
+  EXPECT_EQ(t.g.CharactersReleased, 0);
+  t.Ticks(1);  // the third cycle
+  EXPECT_EQ(t.g.CharactersReleased, 1);
+  EXPECT_EQ(t.C(0).X, 10);
+  t.Ticks(3);
+  EXPECT_EQ(t.C(1).X, 30);
+  t.Ticks(3);
+  EXPECT_EQ(t.C(2).X, 10);
+  EXPECT_EQ(t.g.ui.Label4Caption(0), "3");
+}
+
+TEST(Release, AnIntervalOfZeroOrNoEntranceReleasesNobody) {
+  TestGame zero(MakeLevel(kLongFloor, 0, 1, 5, 0, 0));
+  zero.Ticks(50);
+  EXPECT_EQ(zero.g.CharactersReleased, 0);
+
+  LevelData none = MakeLevel(kLongFloor, 0, 1, 5, 0, 1);
+  none.Slots[0].EntranceActive = 0;
+  TestGame t(none);
+  t.Ticks(50);
+  EXPECT_EQ(t.g.CharactersReleased, 0);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::None);
+}
+
+TEST(SlowMotion, CrowdMovesEverySecondTickLeaderEveryTickForTwentyTicks) {
+  LevelData d = MakeLevel(kLongFloor, 0, 1, 2, 0, 1);
+  d.ToolStock[ToolSlow] = 1;
+  TestGame t(d);
+  t.Ticks(2);  // leader (0) at x=1, crowd (1) at x=0
+  UseTool(t.g, ToolSlow);
+  EXPECT_EQ(t.g.Tool5Countdown, 20);
+  EXPECT_EQ(t.g.ui.Label1Back(ToolSlow), kToolInUse);
+  t.Ticks(20);
+  EXPECT_EQ(t.C(0).X, 21);
+  EXPECT_EQ(t.C(1).X, 10);
+  EXPECT_EQ(t.g.Tool5Countdown, 0);
+  EXPECT_EQ(t.g.ui.Label1Back(ToolSlow), kSystemWindow);
+  EXPECT_EQ(t.g.ReplayLog(2), "R");
+}
+
+TEST(ReplayTick, StopsAtTwoThousandAndMarksTheEnd) {
+  TestGame t(MakeLevel(kLongFloor, 0, 1, 0, 0, 1, 5000));
+  t.Ticks(2001);
+  EXPECT_EQ(t.g.ReplayTick, 2000);
+  EXPECT_EQ(t.g.ReplayLog(2000), "E");
+}
+
+TEST(LevelEnd, EndsTheCycleItHappensIn) {
+  // The only character falls out of the bottom in cycle 2. With needed 0 the level is won as
+  // soon as the last is gone; the replay tick of that cycle is not counted.
+  TestGame t(MakeLevel({".", "."}, 0, 0, 1, 0, 1));
+  t.Ticks(2);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::None);
+  t.Ticks(1);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::Won);
+  EXPECT_EQ(t.g.LevelsEnded, 1);
+  EXPECT_EQ(t.g.ReplayTick, 2);
+}
+
+TEST(LevelEnd, LostRestartsTheLevelWithoutItsTitleCard) {
+  TestGame t(MakeLevel({"...", "###"}, 0, 0, 1, 1, 1));
+  t.Ticks(4);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::Lost);
+  ASSERT_EQ(t.host.screens.size(), 1u);
+  EXPECT_EQ(t.host.screens[0], Screen::LooseLevel);
+  EXPECT_TRUE(t.host.PlayedSound(108));
+  EXPECT_EQ(t.g.CharactersReleased, 0);  // the level was loaded again
+  EXPECT_TRUE(t.g.ui.Timer1Enabled);
+  t.Ticks(1);
+  EXPECT_EQ(t.g.CharactersReleased, 1);
+}
+
+}  // namespace
+}  // namespace qb

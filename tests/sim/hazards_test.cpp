@@ -1,0 +1,166 @@
+// Crumbling walls, electric walls, water and lava, teleports and traps, cycle by cycle.
+#include <gtest/gtest.h>
+
+#include "support/level_builder.h"
+
+namespace qb {
+namespace {
+
+using test::MakeLevel;
+using test::TestGame;
+
+TEST(Crumbling, AWallUnderfootGoesInTheLandingTickAndTheCharacterFallsThrough) {
+  TestGame t(MakeLevel({"M.M", "M.M", "McM", "M.M", "M#M"}, 1, 0, 1, 1, 1));
+  t.Ticks(2);  // released, fell to row 1, lands on the crumbling wall
+  EXPECT_EQ(t.C(0).Y, 1);
+  t.Ticks(1);  // standing on it: it is removed in this tick
+  EXPECT_EQ(t.g.Grid(1, 2), Empty);
+  EXPECT_EQ(t.C(0).Y, 1);
+  t.Ticks(1);
+  EXPECT_EQ(t.C(0).Y, 2);
+  EXPECT_EQ(t.C(0).FallCount, 1);
+}
+
+TEST(Crumbling, AWallAheadIsSteppedOntoButOneThatStopsTheCharacterGoes) {
+  TestGame step(MakeLevel({"....", "..c.", "####"}, 0, 1));
+  step.Ticks(3);
+  EXPECT_EQ(step.g.Grid(2, 1), CrumbleWall);
+  EXPECT_EQ(step.C(0).Y, 0);
+
+  TestGame stop(MakeLevel({"..M.", "..C.", "####"}, 0, 1));
+  stop.Ticks(3);
+  EXPECT_EQ(stop.g.Grid(2, 1), Empty);
+  EXPECT_EQ(stop.C(0).Dir, -1);
+  EXPECT_EQ(stop.C(0).X, 1);
+}
+
+TEST(Electric, TouchingFromTheSideFromAboveOrDiagonallyShocksButNotFromBelow) {
+  for (const auto& rows : std::vector<std::vector<std::string>>{
+           {"....", "..Z.", "####"},    // ahead
+           {"..Z.", "..M.", "####"},    // diagonally up ahead, over a wall
+           {"....", "....", "#Z##"}}) {  // below
+    TestGame t(MakeLevel(rows, 0, 1, 1, 0));
+    t.Ticks(3);
+    EXPECT_FALSE(t.C(0).Out);
+    EXPECT_GT(t.C(0).Shocked, 0) << rows[0] << "/" << rows[1] << "/" << rows[2];
+    EXPECT_TRUE(t.host.PlayedSound(101));
+    t.Ticks(4);
+    EXPECT_EQ(t.C(0).Shocked, 0);
+  }
+  TestGame overhead(MakeLevel({"ZZZZ", "....", "####"}, 0, 1, 1, 0));
+  overhead.Ticks(3);
+  EXPECT_TRUE(overhead.C(0).Out);
+  EXPECT_EQ(overhead.C(0).X, 2);
+}
+
+TEST(Electric, TheLeaderShockedTurnsAllToolLabelsLightRed) {
+  TestGame t(MakeLevel({"....", "..Z.", "####"}, 0, 1, 2, 0));
+  t.Ticks(3);
+  for (int i = 0; i < 8; ++i) {
+    EXPECT_EQ(t.g.ui.Label1Back(i), kToolsLost);
+    EXPECT_EQ(t.g.ui.Label2Back(i), kToolsLost);
+  }
+}
+
+TEST(Liquids, WaterAheadIsSteppedOntoAndSplashesWithItsSoundLavaWithAnother) {
+  for (char liquid : {'~', '^'}) {
+    std::string row = "#####";
+    row[3] = liquid;
+    TestGame t(MakeLevel({".....", ".....", row}, 0, 1, 1, 0));
+    t.Ticks(3);  // released at (0,1), walks to x=2, steps up? no: ahead (3,1) is empty
+    t.Ticks(2);
+    EXPECT_FALSE(t.C(0).Out) << liquid;
+    EXPECT_GT(t.C(0).Splashed, 0);
+    EXPECT_TRUE(t.host.PlayedSound(liquid == '~' ? 112 : 106));
+    EXPECT_EQ(t.g.SplashColour(0), t.g.SquareColour(liquid == '~' ? Water : Lava));
+  }
+  TestGame ahead(MakeLevel({".....", "..~..", "#####"}, 0, 1, 1, 0));
+  ahead.Ticks(3);  // at x=1, water ahead: steps up onto (2,0)
+  EXPECT_EQ(ahead.C(0).X, 2);
+  EXPECT_EQ(ahead.C(0).Y, 0);
+  ahead.Ticks(1);
+  EXPECT_GT(ahead.C(0).Splashed, 0);
+  TestGame roofed(MakeLevel({"..M..", "..~..", "#####"}, 0, 1, 1, 0));
+  roofed.Ticks(3);
+  EXPECT_TRUE(roofed.C(0).Out);
+  EXPECT_EQ(roofed.C(0).Dir, -1);
+}
+
+LevelData TeleportLevel(bool partnerDefined) {
+  LevelData d = MakeLevel({"..........", "..T....T..", "##########"}, 0, 1, 1, 0, 1, 900);
+  d.Slots[2] = {0, 0, -1, 0, 0, 0, 0, 2, 1};
+  d.Slots[3] = {0, 0, static_cast<int16_t>(partnerDefined ? -1 : 0), 0, 0, 0, 0, 7, 1};
+  return d;
+}
+
+TEST(Teleports, AcrossThePairInFourTicksStillCountedOut) {
+  TestGame t(TeleportLevel(true));
+  t.Ticks(3);  // at x=1, steps into the teleport at x=2
+  EXPECT_EQ(t.C(0).Teleporting, 2);
+  EXPECT_EQ(t.g.ui.Label4Caption(0), "1");
+  t.Ticks(2);
+  EXPECT_EQ(t.C(0).X, 7);
+  EXPECT_EQ(t.C(0).Teleporting, 4);
+  EXPECT_TRUE(t.C(0).Out);
+  t.Ticks(1);  // stage 4 and, in the same turn, the walk
+  EXPECT_EQ(t.C(0).Teleporting, 0);
+  EXPECT_EQ(t.C(0).X, 8);
+  EXPECT_TRUE(t.host.PlayedSound(110));
+}
+
+TEST(Teleports, AnUndefinedPartnerStillSendsToItsCoordinates) {
+  TestGame t(TeleportLevel(false));
+  t.Ticks(6);
+  EXPECT_EQ(t.C(0).X, 8);
+}
+
+TEST(Teleports, ATeleportSquareNoSlotDescribesKeepsTheCharacterInPlace) {
+  LevelData d = MakeLevel({"..........", "....T.....", "##########"}, 0, 1, 1, 0);
+  TestGame t(d);
+  t.Ticks(5);  // steps into (4,1) in cycle 4
+  t.Ticks(2);
+  EXPECT_EQ(t.C(0).X, 4);
+  EXPECT_EQ(t.C(0).Teleporting, 4);
+  t.Ticks(1);
+  EXPECT_EQ(t.C(0).X, 5);
+}
+
+LevelData TrapLevel(int total, int release) {
+  LevelData d = MakeLevel({"..........", "..........", "##########"}, 0, 1, total, 0, release);
+  d.Slots[1].TrapActive = -1;
+  d.Slots[1].TrapX = 4;
+  d.Slots[1].TrapY = 1;
+  return d;
+}
+
+TEST(Traps, CatchesTheFirstCharacterAndIgnoresOthersWhileClosing) {
+  TestGame t(TrapLevel(3, 2));
+  t.Ticks(7);  // char 0 reaches x=4 on cycle 5 and is caught by the check of that cycle
+  EXPECT_FALSE(t.C(0).Out);
+  EXPECT_GT(t.C(0).Trapped, 0);
+  EXPECT_TRUE(t.host.PlayedSound(111));
+  t.Ticks(2);  // char 1 walks over while the trap closes
+  EXPECT_TRUE(t.C(1).Out);
+  EXPECT_GE(t.C(1).X, 4);
+  t.Ticks(10);
+  EXPECT_EQ(t.C(0).Trapped, 0);
+  EXPECT_EQ(t.g.TrapSprung(1), False);
+  EXPECT_FALSE(t.C(2).Out);  // re-armed in time for the third
+}
+
+TEST(Traps, TwoCharactersOnTheTrapInOneTickOnlyTheLowerIndexIsCaught) {
+  LevelData d = TrapLevel(2, 1);
+  d.Slots[0].EntranceX = 2;
+  d.Slots[2].EntranceActive = -1;  // the second comes out one square ahead, one cycle later
+  d.Slots[2].EntranceX = 3;
+  d.Slots[2].EntranceY = 1;
+  TestGame t(d);
+  t.Ticks(3);  // both step onto the trap at (4,1) in cycle 2
+  EXPECT_EQ(t.C(1).X, 4);
+  EXPECT_FALSE(t.C(0).Out);
+  EXPECT_GT(t.C(0).Trapped, 0);
+  EXPECT_TRUE(t.C(1).Out);
+}
+
+}  // namespace
+}  // namespace qb

@@ -1,0 +1,102 @@
+// Walking, stepping up, turning, falling and the level's edges, run cycle by cycle.
+#include <gtest/gtest.h>
+
+#include "support/level_builder.h"
+
+namespace qb {
+namespace {
+
+using test::MakeLevel;
+using test::TestGame;
+
+TEST(Walking, CrowdWalksToTheDoorAndTheLevelIsWon) {
+  TestGame t(MakeLevel({"........", ".......D", "########"}, 0, 1, 1, 1));
+  t.Ticks(1);  // released on the first cycle
+  EXPECT_EQ(t.g.CharactersReleased, 1);
+  EXPECT_EQ(t.C(0).X, 0);
+  t.Ticks(6);
+  EXPECT_EQ(t.C(0).X, 6);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::None);
+  t.Ticks(1);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::Won);
+  EXPECT_EQ(t.g.SavedCount, 1);
+  ASSERT_FALSE(t.host.screens.empty());
+  EXPECT_EQ(t.host.screens.front(), Screen::WinLevel);
+  EXPECT_TRUE(t.host.PlayedSound(104));
+}
+
+TEST(Walking, SingleStepIsClimbedDiagonallyInOneTick) {
+  TestGame t(MakeLevel({"......", "......", "...#..", "######"}, 0, 2));
+  t.Ticks(3);  // released, then x=1, x=2
+  EXPECT_EQ(t.C(0).X, 2);
+  EXPECT_EQ(t.C(0).Y, 2);
+  t.Ticks(1);
+  EXPECT_EQ(t.C(0).X, 3);
+  EXPECT_EQ(t.C(0).Y, 1);
+}
+
+TEST(Walking, WallTwoHighTurnsTheCharacterInPlace) {
+  TestGame t(MakeLevel({"......", "...#..", "...#..", "######"}, 0, 2));
+  t.Ticks(4);  // at x=2 after three moves, then blocked
+  EXPECT_EQ(t.C(0).X, 2);
+  EXPECT_EQ(t.C(0).Dir, -1);
+  t.Ticks(1);
+  EXPECT_EQ(t.C(0).X, 1);
+}
+
+TEST(Walking, LeavingTheSideOfTheLevelKills) {
+  TestGame t(MakeLevel({"....", "####"}, 0, 0, 2, 0, 1));
+  t.Ticks(4);
+  EXPECT_EQ(t.C(0).X, 3);
+  EXPECT_TRUE(t.C(0).Out);
+  t.Ticks(1);
+  EXPECT_FALSE(t.C(0).Out);
+  EXPECT_TRUE(t.host.PlayedSound(107));
+}
+
+// A shaft: the character appears at the top and falls until the floor at row `floor`.
+LevelData Shaft(int floor, char landing = '#') {
+  std::vector<std::string> rows;
+  for (int y = 0; y < floor; ++y) rows.push_back("M.M");
+  rows.push_back(std::string("M") + landing + "M");
+  rows.push_back("MMM");
+  return MakeLevel(rows, 1, 0, 2, 1, 1);
+}
+
+TEST(Falling, FifteenSquaresIsSurvivedSixteenSplats) {
+  TestGame survive(Shaft(16));
+  survive.Ticks(17);
+  EXPECT_EQ(survive.C(0).Y, 15);
+  EXPECT_TRUE(survive.C(0).Out);
+  EXPECT_EQ(survive.C(0).FallCount, 0);
+
+  TestGame splat(Shaft(17));
+  splat.Ticks(18);
+  EXPECT_EQ(splat.C(0).Y, 16);
+  EXPECT_FALSE(splat.C(0).Out);
+  EXPECT_EQ(splat.C(0).Splatted, 2);
+  EXPECT_TRUE(splat.host.PlayedSound(109));
+  splat.Ticks(2);
+  EXPECT_EQ(splat.C(0).Splatted, 0);
+}
+
+TEST(Falling, TheDoorSavesAFallOfFifteenButNotSixteen) {
+  TestGame saved(Shaft(16, 'D'));
+  saved.Ticks(17);
+  EXPECT_EQ(saved.g.SavedCount, 1);
+
+  TestGame dead(Shaft(17, 'D'));
+  dead.Ticks(18);
+  EXPECT_EQ(dead.g.SavedCount, 0);
+  EXPECT_GT(dead.C(0).Splatted, 0);
+}
+
+TEST(Falling, OffTheBottomKills) {
+  TestGame t(MakeLevel({"M.M", "M.M"}, 1, 0, 2, 1, 1));
+  t.Ticks(3);
+  EXPECT_FALSE(t.C(0).Out);
+  EXPECT_TRUE(t.host.PlayedSound(107));
+}
+
+}  // namespace
+}  // namespace qb
