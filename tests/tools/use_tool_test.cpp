@@ -1,0 +1,127 @@
+// Tool use: what is refused, what is spent, what is recorded.
+#include <gtest/gtest.h>
+
+#include "support/level_builder.h"
+#include "tools/level_commands.h"
+#include "tools/use_tool.h"
+
+namespace qb {
+namespace {
+
+using test::MakeLevel;
+using test::TestGame;
+
+LevelData Floor(std::array<int16_t, 8> stock) {
+  LevelData d = MakeLevel({std::string(40, '.'), std::string(40, '.'), std::string(40, '.'),
+                           std::string(40, '#'), std::string(40, '#')},
+                          0, 2, 3, 0, 1, 900);
+  d.ToolStock = stock;
+  return d;
+}
+
+TEST(UseTool, AnEmptyStockDoesNothingNotEvenUnpause) {
+  TestGame t(Floor({0, 1, 1, 1, 1, 1, 1, 1}));
+  t.Ticks(2);
+  LevelCmd_Click(t.g, 0);
+  ASSERT_FALSE(t.g.ui.Timer1Enabled);
+  UseTool(t.g, ToolClimb);
+  EXPECT_FALSE(t.g.ui.Timer1Enabled);
+  EXPECT_EQ(t.g.ClimbArmed, False);
+  UseTool(t.g, ToolSlow);
+  EXPECT_TRUE(t.g.ui.Timer1Enabled);  // a usable tool lifts the pause first
+  EXPECT_EQ(t.g.Tool5Countdown, 20);
+}
+
+TEST(UseTool, SpendingShowsTheCountOrNothingAndRecordsTheLetter) {
+  TestGame t(Floor({2, 0, 0, 0, 0, 1, 0, 0}));
+  t.Ticks(2);
+  UseTool(t.g, ToolClimb);
+  UseTool(t.g, ToolClimb);  // already armed: ignored, costs nothing
+  EXPECT_EQ(t.g.ToolStock(ToolClimb), 1);
+  EXPECT_EQ(t.g.ui.Label2Caption(ToolClimb), "1");
+  EXPECT_EQ(t.g.ui.Label1Back(ToolClimb), kToolInUse);
+  UseTool(t.g, ToolSlow);
+  UseTool(t.g, ToolSlow);  // still running: ignored
+  EXPECT_EQ(t.g.ToolStock(ToolSlow), 0);
+  EXPECT_EQ(t.g.ui.Label2Caption(ToolSlow), "");
+  EXPECT_EQ(t.g.ReplayLog(2), "CR");
+}
+
+TEST(UseTool, InTheAirOnlyTheBombIsAccepted) {
+  LevelData d = MakeLevel({"..........", "..........", "..........", "..........", "#########."},
+                          1, 0, 2, 0, 1, 900);
+  d.ToolStock = {0, 1, 1, 0, 1, 0, 1, 1};
+  TestGame t(d);
+  t.Ticks(2);  // the leader is falling
+  ASSERT_NE(t.C(0).FallCount, 0);
+  for (int tool : {ToolBlock, ToolBuild, ToolJump, ToolLaser}) UseTool(t.g, tool);
+  EXPECT_EQ(t.g.Blocking + t.g.Building + t.g.JumpStage + t.g.Lasering, 0);
+  EXPECT_EQ(t.g.ReplayLog(2), "");
+  UseTool(t.g, ToolBomb);
+  EXPECT_EQ(t.g.Bombing, 2);
+  EXPECT_EQ(t.g.ReplayLog(2), "X");
+}
+
+TEST(UseTool, WhileAJumpOrBlockRunsOnlyClimbIsAccepted) {
+  TestGame t(Floor({1, 1, 1, 1, 1, 1, 1, 1}));
+  t.Ticks(2);
+  UseTool(t.g, ToolJump);
+  ASSERT_EQ(t.g.JumpStage, 2);
+  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser})
+    UseTool(t.g, tool);
+  UseTool(t.g, ToolClimb);
+  EXPECT_EQ(t.g.ReplayLog(2), "JC");
+  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser})
+    EXPECT_EQ(t.g.ToolStock(tool), 1) << tool;
+}
+
+TEST(UseTool, AfterTheLeaderIsLostOnlyChangeWorksAndFindsTheNextCharacter) {
+  LevelData d = Floor({1, 1, 1, 2, 1, 1, 1, 1});
+  d.Squares[static_cast<std::size_t>(6 + 40 * 3)] = Water;  // the leader walks into water at x=6
+  d.Squares[static_cast<std::size_t>(6 + 40 * 4)] = Water;
+  TestGame t(d);
+  t.Ticks(8);
+  ASSERT_FALSE(t.C(0).Out);
+  for (int tool = 0; tool < 8; ++tool)
+    if (tool != ToolChange) UseTool(t.g, tool);
+  EXPECT_EQ(t.g.ReplayLog(t.g.ReplayTick), "");
+  UseTool(t.g, ToolChange);
+  EXPECT_EQ(t.g.Leader, 1);
+  EXPECT_EQ(t.g.ToolStock(ToolChange), 1);
+  EXPECT_EQ(t.g.ReplayLog(t.g.ReplayTick), "D");
+}
+
+TEST(ChangeLeader, CyclesThroughCharactersInTableOrderAndCostsNothingWhenAlone) {
+  TestGame t(Floor({0, 0, 0, 5, 0, 0, 0, 0}));
+  t.Ticks(1);
+  UseTool(t.g, ToolChange);  // only one character out
+  EXPECT_EQ(t.g.ToolStock(ToolChange), 5);
+  t.Ticks(2);
+  UseTool(t.g, ToolChange);
+  EXPECT_EQ(t.g.Leader, 1);
+  UseTool(t.g, ToolChange);
+  EXPECT_EQ(t.g.Leader, 2);
+  UseTool(t.g, ToolChange);
+  EXPECT_EQ(t.g.Leader, 0);  // wraps to index 0
+  EXPECT_EQ(t.g.ToolStock(ToolChange), 2);
+}
+
+TEST(ChangeLeader, ShowChangeMovesTheViewToTheNewLeaderWithinTheScrollLimits) {
+  std::vector<std::string> rows(60, std::string(100, '.'));
+  rows[59] = std::string(100, 'M');
+  LevelData d = MakeLevel(rows, 50, 58, 2, 0, 1, 900);
+  d.Slots[1] = {-1, 0, 0, 70, 58, 0, 0, 0, 0};
+  d.ToolStock[ToolChange] = 3;
+  TestGame t(d);
+  t.g.ui.OptionsChecked(OptShowChange) = true;
+  t.Ticks(2);  // char 0 at x=51, char 1 released at x=70
+  UseTool(t.g, ToolChange);
+  EXPECT_EQ(t.g.ViewX, 70 - 16);
+  EXPECT_EQ(t.g.ViewY, 20);  // 58 - 16 = 42 is past the bottom limit of 60 - 40
+  t.g.ui.OptionsChecked(OptShowChange) = false;
+  UseTool(t.g, ToolChange);
+  EXPECT_EQ(t.g.ViewX, 54);
+}
+
+}  // namespace
+}  // namespace qb
