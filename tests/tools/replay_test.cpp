@@ -1,0 +1,106 @@
+// Replays of the previous attempt, replay files, and taking over from a replay.
+#include <gtest/gtest.h>
+
+#include "support/level_builder.h"
+#include "tools/commands.h"
+#include "tools/level_commands.h"
+#include "tools/replay.h"
+#include "tools/use_tool.h"
+
+namespace qb {
+namespace {
+
+using test::MakeLevel;
+using test::TestGame;
+
+LevelData Field() {
+  LevelData d = MakeLevel({std::string(40, '.'), std::string(40, '.'), std::string(40, '.'),
+                           "#####~~~############################D###", std::string(40, 'M')},
+                          0, 2, 4, 4, 3, 900);
+  d.ToolStock = {0, 0, 3, 2, 2, 1, 0, 0};
+  return d;
+}
+
+std::vector<CharRecord> Chars(const Game& g) {
+  std::vector<CharRecord> out;
+  for (int i = 0; i < g.CharactersTotal; ++i) out.push_back(g.Chars(i));
+  return out;
+}
+
+TEST(Replay, ARestartReplaysThePreviousAttemptExactlyThenHandsOver) {
+  TestGame t(Field());
+  t.Ticks(7);
+  UseTool(t.g, ToolBuild);
+  t.Ticks(3);
+  UseTool(t.g, ToolSlow);
+  UseTool(t.g, ToolChange);
+  t.Ticks(9);
+  const auto before = Chars(t.g);
+  const int stock = t.g.ToolStock(ToolBuild);
+  Form_KeyDown(t.g, KeyEscape);
+  Form_KeyUp(t.g, KeyEscape);  // restart: this attempt becomes the recording
+  EXPECT_EQ(t.g.ReplayLog(19), "E");
+  EXPECT_EQ(t.g.ReplayPlaying, True);
+  EXPECT_TRUE(t.g.ui.Label8Visible);
+  t.Ticks(19);
+  EXPECT_EQ(Chars(t.g), before);
+  EXPECT_EQ(t.g.ToolStock(ToolBuild), stock);
+  EXPECT_EQ(t.g.ReplayPlaying, True);
+  t.Ticks(1);  // the "E": the player has the game from here
+  EXPECT_EQ(t.g.ReplayPlaying, False);
+  EXPECT_FALSE(t.g.ui.Label8Visible);
+  EXPECT_EQ(t.g.ReplayLog(10), "RD");  // re-recorded as it was replayed
+}
+
+TEST(Replay, PressingAToolDuringAReplayTakesOverAndDropsTheRest) {
+  TestGame t(Field());
+  t.Ticks(7);
+  UseTool(t.g, ToolBuild);
+  t.Ticks(10);
+  UseTool(t.g, ToolJump);
+  t.Ticks(2);
+  LevelCmd_Click(t.g, 3);
+  t.Ticks(12);
+  ToolButtonDown(t.g, ToolChange);
+  EXPECT_EQ(t.g.ReplayPlaying, False);
+  EXPECT_EQ(t.g.ReplayLog(12), "D");
+  EXPECT_EQ(t.g.ReplayLog(17), "");  // the jump of the old attempt is gone
+  t.Ticks(10);
+  EXPECT_EQ(t.g.ToolStock(ToolJump), 2);
+}
+
+TEST(Replay, ReplayOffPlaysNothingButStillRecords) {
+  TestGame t(Field());
+  t.g.ui.OptionsChecked(OptReplay) = false;
+  t.Ticks(7);
+  UseTool(t.g, ToolBuild);
+  LevelCmd_Click(t.g, 3);
+  EXPECT_EQ(t.g.ReplayPlaying, False);
+  t.Ticks(10);
+  EXPECT_EQ(t.g.ToolStock(ToolBuild), 3);
+  EXPECT_EQ(t.g.ReplayLog(7), "BE");
+}
+
+TEST(Replay, ARestartInCycleZeroLeavesNothingToReplay) {
+  TestGame t(Field());
+  t.g.ReplayLog(0) = "";  // as after a restart whose recording had nothing in cycle 0
+  LevelCmd_Click(t.g, 3);
+  EXPECT_EQ(t.g.ReplayLog(0), "E");
+  EXPECT_EQ(t.g.ReplayPlaying, False);
+  t.Ticks(1);
+  EXPECT_EQ(t.g.ReplayLog(0), "");
+}
+
+TEST(ReplayFile, ParsesCyclesJoinsLinesAndNamesTheBadLine) {
+  const ReplayFile ok = ParseReplay("# a comment\n\n3 B\n3 J\n2000 L\r\n");
+  EXPECT_TRUE(ok.error.empty());
+  EXPECT_EQ(ok.slots[3], "BJ");
+  EXPECT_EQ(ok.slots[2000], "L");
+  EXPECT_EQ(ParseReplay("1 B\n2001 B\n").error, "line 2: cycle 2001 is not 0 to 2000");
+  EXPECT_EQ(ParseReplay("x\n").error.rfind("line 1:", 0), 0u);
+  EXPECT_EQ(ParseReplay("1 Q\n").error, "line 1: 'Q' is not a replay letter (C K B D J R X L E)");
+  EXPECT_EQ(ParseReplay("1\n").error, "line 1: no tool letters after the cycle number");
+}
+
+}  // namespace
+}  // namespace qb
