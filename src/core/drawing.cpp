@@ -100,13 +100,14 @@ void DrawChar(Game& g, int index) {
 void EraseChar(Game& g, int index) {
   const CharRecord& c = g.Chars(index);
   const Colour background = g.SquareColour(g.Grid(c.X, c.Y));
-  const bool bombPriming = g.Bombing > 0 && g.LaserHitX == 0;
+  // While a bomb is primed the leader carrying it is not drawn back in.
+  const int skipLeader = (g.Bombing > 0 && g.LaserHitX == 0) ? g.Leader : -1;
   int other = -1;
+  const CharRecord* all = g.Chars.First(g.CharactersTotal);
   for (int j = 0; j < g.CharactersTotal; ++j) {
-    if (j == index) continue;
-    if (bombPriming && j == g.Leader) continue;
-    const CharRecord& o = g.Chars(j);
-    if (o.X == c.X && o.Y == c.Y && o.Out) other = j;
+    const CharRecord& o = all[j];
+    const bool here = o.X == c.X && o.Y == c.Y && o.Out != 0 && j != index && j != skipLeader;
+    other = here ? j : other;
   }
   if (other >= 0) {
     DrawChar(g, other);

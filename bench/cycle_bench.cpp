@@ -1,0 +1,43 @@
+// One game cycle of a full-size level with a hundred characters out and walking.
+#include <benchmark/benchmark.h>
+
+#include "core/cycle.h"
+#include "support/level_builder.h"
+
+namespace {
+
+// 120 by 80: ten floors of long corridors with walls to turn at, one entrance per floor pair.
+qb::LevelData BusyLevel() {
+  std::vector<std::string> rows(80, std::string(120, '.'));
+  for (int floor = 0; floor < 10; ++floor) {
+    const int y = 7 + floor * 8;
+    rows[y] = std::string(120, 'M');
+    rows[y - 1][0] = rows[y - 2][0] = 'M';
+    rows[y - 1][119] = rows[y - 2][119] = 'M';
+    rows[y - 1][60] = '#';  // a step
+  }
+  qb::LevelData d = qb::test::MakeLevel(rows, 5, 6, 100, 100, 1, 30000);
+  for (int j = 0; j < 6; ++j) d.Slots[j] = {-1, 0, 0, 5 + 18 * j, static_cast<int16_t>(6 + 8 * j), 0, 0, 0, 0};
+  return d;
+}
+
+void BM_CycleHundredWalking(benchmark::State& state) {
+  qb::test::TestGame t(BusyLevel());
+  t.g.ui.OptionsChecked(qb::OptSound) = false;
+  t.Ticks(150);  // everyone released and walking
+  int out = 0;
+  for (int i = 0; i < 100; ++i) out += t.C(i).Out ? 1 : 0;
+  if (out != 100) state.SkipWithError("not every character is out");
+  for (auto _ : state) {
+    qb::Timer1_Timer(t.g);
+    t.g.pic.Picture1.TakeDirty([](int, int) {});
+    if (t.g.TimeLeft < 100) t.g.TimeLeft = 30000;
+  }
+  state.counters["cycles/s"] = benchmark::Counter(static_cast<double>(state.iterations()),
+                                                  benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_CycleHundredWalking);
+
+}  // namespace
+
+BENCHMARK_MAIN();
