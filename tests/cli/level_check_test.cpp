@@ -1,0 +1,146 @@
+// Checking levels for what makes them unplayable, and the summary table of levels.
+#include "level_check.h"
+
+#include <gtest/gtest.h>
+
+#include "level_bytes.h"
+#include "level_table.h"
+#include "level_text.h"
+
+namespace qb::test {
+namespace {
+
+using leveltext::CheckLevelBytes;
+using leveltext::CheckLevelText;
+using leveltext::SanityProblems;
+
+std::string Joined(const std::vector<std::string>& v) {
+  std::string s;
+  for (const auto& x : v) s += x + "\n";
+  return s;
+}
+
+std::string Joined(const leveltext::CheckResult& r) {
+  std::string s;
+  for (const auto& d : r.diagnostics) s += d.message + "\n";
+  return s;
+}
+
+// A level of `w` by `h` squares with an entrance and a door, viewed from (vx, vy).
+LevelData Level(int w, int h, int vx = 0, int vy = 0) {
+  LevelData d;
+  d.Number = 1;
+  d.CharactersTotal = 5;
+  d.CharactersNeeded = 5;
+  d.GridWidth = static_cast<int16_t>(w);
+  d.GridHeight = h;
+  d.StartViewX = vx;
+  d.StartViewY = static_cast<int16_t>(vy);
+  d.Squares.assign(static_cast<std::size_t>(w * h), 0);
+  d.Square(w - 1, h - 1) = 16;
+  d.Slots[5].EntranceActive = -1;
+  return d;
+}
+
+TEST(LevelCheck, APlayableLevelHasNoProblems) {
+  EXPECT_TRUE(SanityProblems(Level(40, 40)).empty()) << Joined(SanityProblems(Level(40, 40)));
+  EXPECT_TRUE(SanityProblems(Level(60, 50, 20, 10)).empty());
+  EXPECT_TRUE(SanityProblems(Level(120, 80, 80, 40)).empty());
+  EXPECT_TRUE(CheckLevelBytes(WriteLevel(Level(60, 50, 20, 10))).diagnostics.empty());
+}
+
+TEST(LevelCheck, EachSanityRuleIsReported) {
+  LevelData noEntrance = Level(40, 40);
+  noEntrance.Slots[5].EntranceActive = 0;
+  noEntrance.Slots[0].TrapActive = -1;  // an active trap is no entrance
+  EXPECT_NE(Joined(SanityProblems(noEntrance)).find("no active entrance"), std::string::npos);
+
+  LevelData noDoor = Level(40, 40);
+  noDoor.Square(39, 39) = 17;  // a teleport square is no door
+  EXPECT_NE(Joined(SanityProblems(noDoor)).find("no exit door"), std::string::npos);
+
+  LevelData tooMany = Level(40, 40);
+  tooMany.CharactersNeeded = 6;
+  EXPECT_NE(Joined(SanityProblems(tooMany)).find("needed (6) is more than characters (5)"),
+            std::string::npos);
+  EXPECT_TRUE(SanityProblems(tooMany, false).empty());
+
+  // The view is 40 squares wide: a 60 by 50 level scrolls to (20, 10) at most; a level smaller
+  // than the view does not scroll at all.
+  for (const auto& [w, h, vx, vy] : {std::array{60, 50, 21, 0}, std::array{60, 50, 0, 11},
+                                     std::array{30, 30, 1, 0}, std::array{40, 20, 0, 1}}) {
+    SCOPED_TRACE(::testing::Message() << w << "x" << h << " view " << vx << "," << vy);
+    const auto problems = SanityProblems(Level(w, h, vx, vy));
+    ASSERT_EQ(problems.size(), 1u) << Joined(problems);
+    EXPECT_NE(problems[0].find("lies beyond the level"), std::string::npos);
+  }
+}
+
+TEST(LevelCheck, ACutShortFileLoadsButFailsTheCheck) {
+  LevelBytes b;
+  const auto full = b.Bytes();
+  const std::vector<uint8_t> cut(full.begin(),
+                                 full.begin() + static_cast<long>(b.GridOffset() + 6));
+  const auto r = CheckLevelBytes(cut);
+  EXPECT_TRUE(r.loaded);
+  const std::string all = Joined(r);
+  EXPECT_NE(all.find("cut short: the file ends in the grid"), std::string::npos) << all;
+  // The door was in the part that was cut off.
+  EXPECT_NE(all.find("no exit door"), std::string::npos) << all;
+}
+
+TEST(LevelCheck, MissingAndRefusedFilesSayWhy) {
+  const auto empty = CheckLevelBytes({});
+  EXPECT_FALSE(empty.loaded);
+  ASSERT_EQ(empty.diagnostics.size(), 1u);
+  EXPECT_EQ(empty.diagnostics[0].message, "This level does not exist! (the file is empty)");
+
+  LevelBytes numberZero;
+  numberZero.Number = Var::Integer(0);
+  EXPECT_NE(Joined(CheckLevelBytes(numberZero.Bytes())).find("This level does not exist!"),
+            std::string::npos);
+
+  LevelBytes kind40;
+  kind40.Columns[3] = 40;
+  const auto refused = CheckLevelBytes(kind40.Bytes());
+  EXPECT_FALSE(refused.loaded);
+  EXPECT_EQ(Joined(refused), "the game cannot play it: square (1, 0) has kind 40, not 0 to 17\n");
+}
+
+TEST(LevelCheck, TextLevelsAreCheckedWithTheirLines) {
+  const std::string text =
+      "title: T\ntier: 0\nnumber: 1\ncharacters: 2\nneeded: 3\ntime: 5\nrelease: 1\n"
+      "grid:\n....\n####\n";
+  const auto r = CheckLevelText(text);
+  EXPECT_TRUE(r.loaded);
+  ASSERT_EQ(r.diagnostics.size(), 3u) << Joined(r);
+  EXPECT_EQ(r.diagnostics[0].line, 5);  // needed is more than characters
+  EXPECT_NE(Joined(r).find("no active entrance"), std::string::npos);
+  EXPECT_NE(Joined(r).find("no exit door"), std::string::npos);
+
+  const auto bad = CheckLevelText("title: T\ngrid:\n..Q\n");
+  EXPECT_FALSE(bad.loaded);
+  EXPECT_EQ(bad.diagnostics.at(0).line, 3);
+}
+
+TEST(LevelTable, RowsSumUpStockAndElements) {
+  const auto parsed = leveltext::ParseLevelText(
+      "title: Pipes | Drains\ntier: Expert\nnumber: 4\ncharacters: 20\nneeded: 10\n"
+      "time: 250\nrelease: 6\ntools: jump=1 build=2\nentrance 0: 0 0\nentrance 2: 1 0\n"
+      "trap 1: 2 0\nteleport 0: 3 0\nteleport 1: 4 0\nentrance 4: 4 1 inactive\ngrid:\n"
+      ".!1..T\n~~~~MD\n");
+  ASSERT_TRUE(parsed.ok());
+  const LevelData& d = parsed.data;
+  EXPECT_EQ(leveltext::StockSummary(d), "build 2, jump 1");
+  EXPECT_EQ(leveltext::ElementSummary(d),
+            "MetalWall, Water, ExitDoor, Teleport; 2 entrances, 1 trap, 2 teleports");
+  EXPECT_EQ(leveltext::TableRow(d),
+            "| Expert | 4 | Pipes \\| Drains | 6x2 | 20 | 10 | 250 | 6 | build 2, jump 1 | "
+            "MetalWall, Water, ExitDoor, Teleport; 2 entrances, 1 trap, 2 teleports |\n");
+  LevelData bare = Level(3, 3);
+  EXPECT_EQ(leveltext::StockSummary(bare), "none");
+  EXPECT_EQ(leveltext::ElementSummary(bare), "ExitDoor; 1 entrance");
+}
+
+}  // namespace
+}  // namespace qb::test
