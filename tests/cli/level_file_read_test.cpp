@@ -276,21 +276,5 @@ TEST(LevelFileRead, InactiveSlotsOutsideTheLevelAndTheEdgeCountsAreAccepted) {
   }
 }
 
-TEST(LevelFileRead, WhatTheWriterWritesReadsBackWithCanonicalTags) {
-  LevelBytes b;
-  b.TimeLeft = Var::Double(70000.0);
-  b.Slots[0].EntranceActive = Var::Long(1);
-  const LevelRead r = Read(b);
-  ASSERT_EQ(r.status, ReadStatus::Ok);
-  const auto written = WriteLevel(r.data);
-  const LevelRead again = ReadLevel(written);
-  EXPECT_EQ(again.data, r.data);
-  // The time no longer fits 16 bits, so it is written as a Long (tag 3).
-  LevelBytes canonical;
-  canonical.TimeLeft = Var::Long(70000);
-  canonical.Slots[0].EntranceActive = Var::Integer(1);
-  EXPECT_EQ(written, canonical.Bytes());
-}
-
 }  // namespace
 }  // namespace qb::test

@@ -272,10 +272,5 @@ TEST(LevelText, MoreNeededThanCharactersIsOnlyAWarning) {
   EXPECT_EQ(parsed.data.CharactersNeeded, 5);
 }
 
-TEST(LevelText, DiagnosticsAreFormattedWithFileAndLine) {
-  EXPECT_EQ(leveltext::FormatDiagnostic("a.txt", {12, false, "bad"}), "a.txt:12: error: bad");
-  EXPECT_EQ(leveltext::FormatDiagnostic("a.lvl", {0, true, "odd"}), "a.lvl: warning: odd");
-}
-
 }  // namespace
 }  // namespace qb::test
