@@ -332,6 +332,7 @@ void Parser::CheckAfterGrid() {
 }
 
 ParsedLevel Parser::Run(std::string_view text) {
+  if (text.substr(0, 3) == "\xEF\xBB\xBF") text.remove_prefix(3);  // some editors start with a BOM
   std::vector<std::string_view> lines;
   for (std::size_t start = 0; start <= text.size();) {
     auto end = text.find('\n', start);

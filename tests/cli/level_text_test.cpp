@@ -67,7 +67,7 @@ TEST(LevelText, PrintingAParsedLevelGivesTheSameText) {
 
 TEST(LevelText, HeaderOrderCommentsAndLineEndingsDoNotChangeTheLevel) {
   const std::string loose =
-      "# a comment line\r\n"
+      "\xEF\xBB\xBF# a comment line\r\n"
       "  release: 7   # cycles\r\n"
       "tier: 2\r\n"
       "tools: laser=3 climb=1 build=12\r\n"
