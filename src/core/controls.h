@@ -61,6 +61,7 @@ struct Controls {
 
   Controls();
   bool Option(Option o) const { return OptionsChecked(o); }
+  bool operator==(const Controls&) const = default;
 };
 
 }  // namespace qb

@@ -38,6 +38,7 @@ class ViewPicture {
     dirty_.reset();
   }
   int DirtyCount() const { return static_cast<int>(dirty_.count()); }
+  bool operator==(const ViewPicture&) const = default;
 
  private:
   static std::size_t Index(int vx, int vy) { return static_cast<std::size_t>(vx + kViewSize * vy); }
@@ -72,6 +73,7 @@ struct Pictures {
   ViewPicture Picture1;
   MapPicture Map;      // Picture2(0)
   MapPicture Backing;  // Picture2(1)
+  bool operator==(const Pictures&) const = default;
 };
 
 }  // namespace qb

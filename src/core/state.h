@@ -104,6 +104,8 @@ struct GameState {
   std::string MusicState = "Stopped";
   Table<std::string, 10> TrackNames{"TrackNames"};
   int16_t CurrentTrack = 0;
+
+  bool operator==(const GameState&) const = default;
 };
 
 }  // namespace qb
