@@ -1,0 +1,142 @@
+// Real playback through SDL's disk audio driver: every effect and the first seconds of every
+// track must write sound well above silence into the driver's output file.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "audio/audio.h"
+#include "audio/sound_bank.h"
+#include "audio_env.h"
+#include "riff_wave.h"
+
+namespace qb {
+namespace {
+
+constexpr int kBytesPerSecond = 44100 * 2 * 2;  // the mixer's output: 44.1 kHz, stereo, 16 bits
+
+struct Level {
+  double rms = 0, peak = 0;
+};
+
+// Opens the audio on the disk driver, writing to a file of this test's own.
+class DiskPlayback : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    file_ = std::filesystem::temp_directory_path() /
+            ("quorbit-disk-" + std::to_string(::getpid()) + ".raw");
+    test::AudioDriver::Set("SDL_DISKAUDIOFILE", file_.string());
+    // 2 ms per 1024-frame buffer instead of 23 ms: the file fills ten times faster than real
+    // time, with the same mixing.
+    test::AudioDriver::Set("SDL_DISKAUDIODELAY", "2");
+    ASSERT_TRUE(audio_.Open()) << log_.str();
+  }
+  void TearDown() override { std::filesystem::remove(file_); }
+
+  size_t Written() const {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(file_, error);
+    return error ? 0 : size;
+  }
+
+  // Waits until `seconds` of output after `from` have reached the file, then measures them.
+  Level Measure(size_t from, double seconds) {
+    const size_t bytes = static_cast<size_t>(seconds * kBytesPerSecond) & ~size_t{3};
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    // Extra margin: the driver writes through a stdio buffer.
+    while (Written() < from + bytes + 65536 && std::chrono::steady_clock::now() < until)
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_GE(Written(), from + bytes) << "the disk driver stopped writing";
+    std::ifstream in(file_, std::ios::binary);
+    in.seekg(static_cast<std::streamoff>(from));
+    std::vector<int16_t> samples(bytes / 2);
+    in.read(reinterpret_cast<char*>(samples.data()), static_cast<std::streamsize>(bytes));
+    samples.resize(static_cast<size_t>(in.gcount()) / 2);
+    Level level;
+    double squares = 0;
+    for (int16_t s : samples) {
+      level.peak = std::max(level.peak, std::abs(s / 32768.0));
+      squares += (s / 32768.0) * (s / 32768.0);
+    }
+    level.rms = samples.empty() ? 0 : std::sqrt(squares / static_cast<double>(samples.size()));
+    return level;
+  }
+
+  test::AudioDriver driver_{"disk"};
+  std::filesystem::path file_;
+  std::ostringstream log_;
+  Audio audio_{log_};
+};
+
+TEST_F(DiskPlayback, EveryEffectIsWellAboveSilence) {
+  struct Wanted {
+    const char* type;
+    int number;
+  };
+  const Wanted effects[] = {{"SOUND", 101}, {"SOUND", 102}, {"SOUND", 104}, {"SOUND", 105},
+                            {"SOUND", 106}, {"SOUND", 107}, {"SOUND", 108}, {"SOUND", 109},
+                            {"SOUND", 110}, {"SOUND", 111}, {"SOUND", 112}, {"SOUND", 113},
+                            {"SOUND", 114}, {"CUSTOM", 115}};
+  // Silence first: nothing plays before an effect is asked for.
+  const Level quiet = Measure(Written(), 0.2);
+  EXPECT_EQ(quiet.peak, 0.0);
+  for (const auto& e : effects) {
+    const auto wave = test::ReadWave(FindSound(e.type, e.number));
+    ASSERT_TRUE(wave);
+    const double seconds = static_cast<double>(wave->samples.size()) / wave->sampleRate;
+    const size_t from = Written();
+    audio_.PlayEffect(e.type, e.number);
+    // The window covers the effect whatever the few buffers of delay before it starts.
+    const Level level = Measure(from, seconds + 0.3);
+    std::printf("effect %s %d: %.2f s, rms %.3f, peak %.3f\n", e.type, e.number, seconds, level.rms,
+                level.peak);
+    EXPECT_GT(level.peak, 0.3) << e.number;
+    EXPECT_GT(level.rms, 0.02) << e.number;
+  }
+  EXPECT_EQ(log_.str(), "");
+}
+
+TEST_F(DiskPlayback, ANewEffectCutsOffTheOneStillPlaying) {
+  // The long fanfare, cut after a moment by the short jump: the output falls silent soon after
+  // the jump's length, long before the fanfare would have ended.
+  audio_.PlayEffect("SOUND", 114);
+  const size_t start = Written();
+  Measure(start, 0.3);
+  audio_.PlayEffect("CUSTOM", 115);
+  const size_t cut = Written();
+  const Level after = Measure(cut + kBytesPerSecond / 2 + 65536, 0.8);
+  EXPECT_EQ(after.peak, 0.0);
+}
+
+class DiskMusic : public DiskPlayback, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(DiskMusic, TheFirstSecondsAreWellAboveSilence) {
+  audio_.SetMusicFileName(std::string(QUORBIT_MUSIC_DIR) + "/" + GetParam() + ".mid");
+  audio_.SendMusicCommand(MusicCommand::Open);
+  const size_t from = Written();
+  audio_.SendMusicCommand(MusicCommand::Play);
+  const Level level = Measure(from, 4.0);
+  std::printf("track %s: first 4 s rms %.3f, peak %.3f\n", GetParam(), level.rms, level.peak);
+  EXPECT_GT(level.rms, 0.01);
+  EXPECT_GT(level.peak, 0.05);
+  audio_.SendMusicCommand(MusicCommand::Stop);
+  EXPECT_EQ(log_.str(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Tracks, DiskMusic,
+                         ::testing::Values("planet9", "Rockem3d", "yuffies", "pktsym", "POP",
+                                           "danceoftheheavens", "PIANO", "7[1]", "smooth", "dbyd8"),
+                         [](const auto& info) {
+                           std::string name = info.param;
+                           for (char& c : name)
+                             if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+                           return name;
+                         });
+
+}  // namespace
+}  // namespace qb

@@ -1,0 +1,154 @@
+// The built-in effects: every number the rules play is there as a sound, 16-bit PCM WAV image;
+// and the description reader and synthesiser they are made with.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "audio/sound_bank.h"
+#include "effect_description.h"
+#include "riff_wave.h"
+#include "synthesize.h"
+
+namespace qb {
+namespace {
+
+struct Wanted {
+  const char* type;
+  int number;
+};
+constexpr Wanted kEffects[] = {{"SOUND", 101}, {"SOUND", 102}, {"SOUND", 104}, {"SOUND", 105},
+                               {"SOUND", 106}, {"SOUND", 107}, {"SOUND", 108}, {"SOUND", 109},
+                               {"SOUND", 110}, {"SOUND", 111}, {"SOUND", 112}, {"SOUND", 113},
+                               {"SOUND", 114}, {"CUSTOM", 115}};
+
+TEST(BuiltInEffects, EveryEffectIsAnAudible16BitPcmWave) {
+  for (const auto& e : kEffects) {
+    SCOPED_TRACE(std::string(e.type) + " " + std::to_string(e.number));
+    const auto bytes = FindSound(e.type, e.number);
+    ASSERT_FALSE(bytes.empty());
+    std::string why;
+    const auto wave = test::ReadWave(bytes, &why);
+    ASSERT_TRUE(wave) << why;
+    EXPECT_EQ(wave->format, 1);
+    EXPECT_EQ(wave->bitsPerSample, 16);
+    EXPECT_EQ(wave->channels, 1);
+    EXPECT_GE(wave->sampleRate, 11025);
+    const double seconds = static_cast<double>(wave->samples.size()) / wave->sampleRate;
+    EXPECT_GT(seconds, 0.1);
+    EXPECT_LT(seconds, 3.0);  // an effect, not a piece of music
+    int peak = 0;
+    double squares = 0;
+    for (int16_t s : wave->samples) {
+      peak = std::max(peak, std::abs(static_cast<int>(s)));
+      squares += static_cast<double>(s) * s;
+    }
+    EXPECT_GT(peak, 16000);  // about half of full scale or more
+    EXPECT_GT(std::sqrt(squares / static_cast<double>(wave->samples.size())), 1000);
+  }
+}
+
+TEST(BuiltInEffects, ThereIsNo103AndTheTypeMustMatch) {
+  EXPECT_TRUE(FindSound("SOUND", 103).empty());
+  EXPECT_TRUE(FindSound("CUSTOM", 103).empty());
+  EXPECT_TRUE(FindSound("SOUND", 115).empty());  // the jump is a CUSTOM resource
+  EXPECT_TRUE(FindSound("CUSTOM", 101).empty());
+  EXPECT_TRUE(FindSound("sound", 101).empty());
+  EXPECT_TRUE(FindSound("SOUND", 0).empty());
+  EXPECT_TRUE(FindSound("SOUND", 116).empty());
+}
+
+TEST(BuiltInEffects, EachEffectSoundsDifferent) {
+  for (size_t i = 0; i < std::size(kEffects); ++i)
+    for (size_t j = i + 1; j < std::size(kEffects); ++j) {
+      const auto a = FindSound(kEffects[i].type, kEffects[i].number);
+      const auto b = FindSound(kEffects[j].type, kEffects[j].number);
+      EXPECT_FALSE(std::equal(a.begin(), a.end(), b.begin(), b.end()))
+          << kEffects[i].number << " and " << kEffects[j].number;
+    }
+}
+
+TEST(EffectDescription, ReadsEveryKey) {
+  const auto d = sfx::ReadEffectDescription(
+      "# comment line\n\n"
+      "107 SOUND at=0.5 len=0.9 wave=triangle pitch=1500>140 noise=0.25 lowpass=800 "
+      "env=0.01/0.2/0.6/0.3 tremolo=9 vibrato=7/0.3 vol=0.5  # trailing comment\n"
+      "115 CUSTOM len=0.2\n");
+  ASSERT_TRUE(d.errors.empty()) << d.errors.front();
+  ASSERT_EQ(d.voices.size(), 2u);
+  const auto& v = d.voices[0];
+  EXPECT_EQ(v.number, 107);
+  EXPECT_EQ(v.type, "SOUND");
+  EXPECT_DOUBLE_EQ(v.start, 0.5);
+  EXPECT_DOUBLE_EQ(v.length, 0.9);
+  EXPECT_EQ(v.wave, sfx::Waveform::Triangle);
+  EXPECT_DOUBLE_EQ(v.pitchFrom, 1500);
+  EXPECT_DOUBLE_EQ(v.pitchTo, 140);
+  EXPECT_DOUBLE_EQ(v.noise, 0.25);
+  EXPECT_DOUBLE_EQ(v.lowpass, 800);
+  EXPECT_DOUBLE_EQ(v.attack, 0.01);
+  EXPECT_DOUBLE_EQ(v.decay, 0.2);
+  EXPECT_DOUBLE_EQ(v.sustain, 0.6);
+  EXPECT_DOUBLE_EQ(v.release, 0.3);
+  EXPECT_DOUBLE_EQ(v.tremolo, 9);
+  EXPECT_DOUBLE_EQ(v.vibratoRate, 7);
+  EXPECT_DOUBLE_EQ(v.vibratoDepth, 0.3);
+  EXPECT_DOUBLE_EQ(v.volume, 0.5);
+  EXPECT_EQ(d.voices[1].type, "CUSTOM");
+  EXPECT_DOUBLE_EQ(d.voices[1].pitchFrom, d.voices[1].pitchTo);  // a steady default pitch
+}
+
+TEST(EffectDescription, ReportsEachBadLineWithItsNumber) {
+  const auto d = sfx::ReadEffectDescription(
+      "101 SOUND len=0.3\n"
+      "102 NOISE len=0.3\n"
+      "103 SOUND wave=sine\n"
+      "104 SOUND len=0.3 colour=red\n"
+      "105 SOUND len=0.3 env=0.1/0.2/0.5\n"
+      "106 SOUND len=0.3 env=0.1/0.2/0.5/0.1/9\n"
+      "107 SOUND len=0.3 pitch=0>100\n"
+      "108 SOUND len=abc\n"
+      "x SOUND len=0.3\n");
+  ASSERT_EQ(d.voices.size(), 1u);
+  ASSERT_EQ(d.errors.size(), 8u);
+  EXPECT_NE(d.errors[0].find("line 2"), std::string::npos);
+  EXPECT_NE(d.errors[1].find("len="), std::string::npos);
+  EXPECT_NE(d.errors[2].find("colour"), std::string::npos);
+  EXPECT_NE(d.errors[3].find("env"), std::string::npos);
+  EXPECT_NE(d.errors[4].find("env"), std::string::npos);
+  EXPECT_NE(d.errors[5].find("pitch"), std::string::npos);
+  EXPECT_NE(d.errors[7].find("line 9"), std::string::npos);
+}
+
+TEST(EffectSynthesis, PlacesVoicesInTimeAndScalesToTheTargetPeak) {
+  const auto d = sfx::ReadEffectDescription(
+      "1 SOUND at=0.5 len=0.5 wave=square pitch=440 env=0/0/1/0\n"
+      "1 SOUND len=0.25 wave=sine pitch=880 vol=0.1 env=0/0/1/0\n");
+  ASSERT_TRUE(d.errors.empty());
+  const auto samples = sfx::RenderEffect(d.voices);
+  ASSERT_EQ(samples.size(), static_cast<size_t>(sfx::kSampleRate));  // ends at 0.5 + 0.5 s
+  auto peakOf = [&](double from, double to) {
+    int peak = 0;
+    for (auto i = static_cast<size_t>(from * sfx::kSampleRate);
+         i < static_cast<size_t>(to * sfx::kSampleRate); ++i)
+      peak = std::max(peak, std::abs(static_cast<int>(samples[i])));
+    return peak;
+  };
+  EXPECT_NEAR(peakOf(0.5, 1.0), sfx::kTargetPeak * 32767, 2);  // the loudest part
+  EXPECT_GT(peakOf(0.0, 0.25), 0);                             // the quiet voice
+  EXPECT_LT(peakOf(0.0, 0.25), peakOf(0.5, 1.0) / 4);
+  EXPECT_EQ(peakOf(0.26, 0.49), 0);                 // nothing sounds between the two voices
+  EXPECT_EQ(sfx::RenderEffect(d.voices), samples);  // the same description, the same bytes
+}
+
+TEST(EffectSynthesis, WavImageDescribesItsSamples) {
+  const std::vector<int16_t> samples{0, 1000, -1000, 32767, -32768};
+  const auto bytes = sfx::MakeWav(samples);
+  const auto wave = test::ReadWave(bytes);
+  ASSERT_TRUE(wave);
+  EXPECT_EQ(wave->sampleRate, sfx::kSampleRate);
+  EXPECT_EQ(wave->samples, samples);
+}
+
+}  // namespace
+}  // namespace qb

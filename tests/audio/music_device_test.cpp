@@ -1,0 +1,165 @@
+// The audio helper without real sound: the music device's modes through Open/Play/Stop/Close,
+// a piece that ends by itself, and missing files or no audio device reported once, no crash.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "audio/audio.h"
+#include "audio_env.h"
+#include "midi_file.h"
+#include "score_reader.h"
+
+namespace qb {
+namespace {
+
+const std::string kMusic = QUORBIT_MUSIC_DIR;
+
+// The command sequence the rules send to start a track.
+void StartTrack(Audio& audio, const std::string& path) {
+  audio.SendMusicCommand(MusicCommand::Stop);
+  audio.SendMusicCommand(MusicCommand::Close);
+  audio.SetMusicFileName(path);
+  audio.SendMusicCommand(MusicCommand::Open);
+  audio.SendMusicCommand(MusicCommand::Play);
+}
+
+bool WaitForMode(Audio& audio, int mode, std::chrono::milliseconds limit) {
+  const auto until = std::chrono::steady_clock::now() + limit;
+  while (audio.MusicMode() != mode && std::chrono::steady_clock::now() < until)
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  return audio.MusicMode() == mode;
+}
+
+TEST(MusicDevice, EveryTrackLoadsAndTheModeFollowsTheCommands) {
+  test::AudioDriver driver("dummy");
+  std::ostringstream log;
+  Audio audio(log);
+  ASSERT_TRUE(audio.Open()) << log.str();
+  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  for (const char* name : {"planet9", "Rockem3d", "yuffies", "pktsym", "POP", "danceoftheheavens",
+                           "PIANO", "7[1]", "smooth", "dbyd8"}) {
+    SCOPED_TRACE(name);
+    audio.SetMusicFileName(kMusic + "/" + name + ".mid");
+    audio.SendMusicCommand(MusicCommand::Open);
+    EXPECT_EQ(audio.MusicMode(), kMusicModeStopped);  // opened, not yet playing
+    audio.SendMusicCommand(MusicCommand::Close);
+    EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  }
+  StartTrack(audio, kMusic + "/POP.mid");
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+  audio.SendMusicCommand(MusicCommand::Play);  // playing on is not a restart
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+  audio.SendMusicCommand(MusicCommand::Stop);
+  EXPECT_EQ(audio.MusicMode(), kMusicModeStopped);
+  audio.SendMusicCommand(MusicCommand::Play);
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+  audio.SendMusicCommand(MusicCommand::Close);
+  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  EXPECT_EQ(log.str(), "");
+}
+
+TEST(MusicDevice, APieceThatEndsReportsStoppedSoTheGameCanRestartIt) {
+  test::AudioDriver driver("dummy");
+  const auto score = music::ReadScore("tempo 240\ntrack program=flute\n c4 e4 g4 >c4\n");
+  ASSERT_TRUE(score.errors.empty());
+  const auto bytes = music::WriteMidiFile(score.score);
+  const auto path = std::filesystem::temp_directory_path() /
+                    ("quorbit-short-" + std::to_string(::getpid()) + ".mid");
+  std::ofstream(path, std::ios::binary)
+      .write(reinterpret_cast<const char*>(bytes.data()),
+             static_cast<std::streamsize>(bytes.size()));
+
+  std::ostringstream log;
+  Audio audio(log);
+  ASSERT_TRUE(audio.Open());
+  StartTrack(audio, path.string());
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+  // One second of music: it ends by itself and is not looped.
+  EXPECT_TRUE(WaitForMode(audio, kMusicModeStopped, std::chrono::seconds(6)));
+  StartTrack(audio, path.string());  // what the keep-alive timer then does
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+  audio.SendMusicCommand(MusicCommand::Close);
+  std::filesystem::remove(path);
+  EXPECT_EQ(log.str(), "");
+}
+
+TEST(MusicDevice, AMissingFilePlaysNothingAndIsReportedOnce) {
+  test::AudioDriver driver("dummy");
+  std::ostringstream log;
+  Audio audio(log);
+  ASSERT_TRUE(audio.Open());
+  for (int i = 0; i < 5; ++i) {
+    StartTrack(audio, kMusic + "/no-such-piece.mid");
+    // Not "stopped": the keep-alive timer must not retry a file that is not there.
+    EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  }
+  StartTrack(audio, "/nowhere/Music/planet9.mid");
+  EXPECT_EQ(test::LineCount(log), 1) << log.str();
+  EXPECT_NE(log.str().find("no-such-piece.mid"), std::string::npos);
+  // A real file still plays afterwards.
+  StartTrack(audio, kMusic + "/planet9.mid");
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+}
+
+TEST(MusicDevice, AFileThatIsNotMidiIsReportedOnce) {
+  test::AudioDriver driver("dummy");
+  const auto path = std::filesystem::temp_directory_path() /
+                    ("quorbit-not-midi-" + std::to_string(::getpid()) + ".mid");
+  std::ofstream(path) << "this is not a MIDI file\n";
+  std::ostringstream log;
+  Audio audio(log);
+  ASSERT_TRUE(audio.Open());
+  for (int i = 0; i < 3; ++i) {
+    StartTrack(audio, path.string());
+    EXPECT_NE(audio.MusicMode(), kMusicModeStopped);
+  }
+  std::filesystem::remove(path);
+  EXPECT_LE(test::LineCount(log), 1) << log.str();
+}
+
+TEST(AudioWithoutDevice, EverythingIsSilentAndReportedOnce) {
+  test::AudioDriver driver("no-such-audio-driver");
+  std::ostringstream log;
+  Audio audio(log);
+  EXPECT_FALSE(audio.Open());
+  EXPECT_FALSE(audio.Open());
+  for (int n = 100; n <= 116; ++n) {
+    audio.PlayEffect("SOUND", n);
+    audio.PlayEffect("CUSTOM", n);
+  }
+  for (int i = 0; i < 3; ++i) StartTrack(audio, kMusic + "/planet9.mid");
+  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  audio.SendMusicCommand(MusicCommand::Stop);
+  audio.SendMusicCommand(MusicCommand::Close);
+  EXPECT_EQ(test::LineCount(log), 1) << log.str();
+  EXPECT_NE(log.str().find("no audio device"), std::string::npos);
+}
+
+TEST(AudioWithoutDevice, CommandsBeforeOpenDoNothing) {
+  std::ostringstream log;
+  Audio audio(log);
+  audio.PlayEffect("SOUND", 101);
+  StartTrack(audio, kMusic + "/planet9.mid");
+  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  EXPECT_EQ(log.str(), "");
+}
+
+TEST(Effects, PlayEveryNumberOnTheDummyDevice) {
+  test::AudioDriver driver("dummy");
+  std::ostringstream log;
+  Audio audio(log);
+  ASSERT_TRUE(audio.Open());
+  for (int round = 0; round < 2; ++round)
+    for (int n = 100; n <= 116; ++n) {
+      audio.PlayEffect("SOUND", n);  // 103, 115 and numbers out of range play nothing
+      audio.PlayEffect("CUSTOM", n);
+    }
+  EXPECT_EQ(log.str(), "");
+}
+
+}  // namespace
+}  // namespace qb
