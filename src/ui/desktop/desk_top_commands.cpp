@@ -1,0 +1,141 @@
+// DeskTop's commands: menus, keys, mouse and the level chooser, each a call into the rules.
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "core/drawing.h"
+#include "core/game.h"
+#include "core/loader.h"
+#include "core/music.h"
+#include "tools/commands.h"
+#include "tools/level_commands.h"
+#include "tools/replay.h"
+#include "ui/desktop/desk_top.h"
+
+namespace qb::ui {
+
+void DeskTop::ConnectCommands() {
+  connect(menus_.gameCmd[0], &QAction::triggered, this, [this] { ChooseLevel(); });
+  connect(menus_.gameCmd[2], &QAction::triggered, this, [this] { close(); });
+  for (int i = 0; i < 7; ++i) {
+    QAction* a = menus_.levelCmd[static_cast<std::size_t>(i)];
+    if (!a->isSeparator())
+      connect(a, &QAction::triggered, this,
+              [this, i] { Run([this, i] { LevelCmd_Click(g_, i); }); });
+  }
+  for (int i = 0; i < 9; ++i) {
+    QAction* a = menus_.optionsCmd[static_cast<std::size_t>(i)];
+    if (!a->isSeparator())
+      connect(a, &QAction::triggered, this,
+              [this, i] { Run([this, i] { OptionsCmd_Click(g_, i); }); });
+  }
+  const auto help = [this](const Dialog* dialog) {
+    Run([this] { PauseForDialog(g_); });
+    if (!*dialog) return;
+    EnterModal();
+    (*dialog)(this);
+    LeaveModal();
+  };
+  connect(menus_.helpCmd[0], &QAction::triggered, this, [this, help] { help(&instructions_); });
+  connect(menus_.helpCmd[2], &QAction::triggered, this, [this, help] { help(&about_); });
+
+  connect(hscroll_, &QScrollBar::valueChanged, this,
+          [this](int v) { Run([this, v] { HScroll1_Change(g_, v); }); });
+  connect(vscroll_, &QScrollBar::valueChanged, this,
+          [this](int v) { Run([this, v] { VScroll1_Change(g_, v); }); });
+
+  connect(panel_, &StatusPanel::toolDown, this,
+          [this](int t) { Run([this, t] { ToolButtonDown(g_, t); }); });
+  connect(panel_, &StatusPanel::toolUp, this,
+          [this](int t) { Run([this, t] { ToolButtonUp(g_, t); }); });
+  connect(panel_, &StatusPanel::label3Down, this,
+          [this](int i, bool r) { Run([=, this] { Label3_MouseDown(g_, i, r); }); });
+  connect(panel_, &StatusPanel::label3Up, this,
+          [this](int i, bool r) { Run([=, this] { Label3_MouseUp(g_, i, r); }); });
+  connect(panel_, &StatusPanel::label7Down, this,
+          [this](bool r) { Run([=, this] { Label7_MouseDown(g_, r); }); });
+  connect(panel_, &StatusPanel::label7Up, this,
+          [this](bool r) { Run([=, this] { Label7_MouseUp(g_, r); }); });
+  connect(panel_, &StatusPanel::label8Clicked, this, [this] { Run([this] { Label8_Click(g_); }); });
+  connect(panel_->Map(), &OverviewMap::clicked, this,
+          [this](double x, double y) { Run([=, this] { OverviewClick(g_, x, y); }); });
+}
+
+void DeskTop::ChooseLevel() {
+  Run([this] { PauseForDialog(g_); });
+  if (!chooser_) return;
+  EnterModal();
+  chooser_(this, g_, [this](int tier, int number) { PlayLevel(tier, number); });
+  LeaveModal();
+}
+
+void DeskTop::PlayLevel(int tier, int number) {
+  Run([this, tier, number] {
+    g_.SkipTitle = False;
+    g_.LevelFile = LevelPath(g_, tier, number);
+    StopMusic(g_);
+    LoadLevel(g_, g_.LevelFile);
+  });
+}
+
+int DeskTop::KeyCodeOf(int qtKey) {
+  switch (qtKey) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return KeyEnter;
+    case Qt::Key_Escape:
+      return KeyEscape;
+    case Qt::Key_Left:
+      return KeyLeft;
+    case Qt::Key_Up:
+      return KeyUp;
+    case Qt::Key_Right:
+      return KeyRight;
+    case Qt::Key_Down:
+      return KeyDown;
+    default:
+      break;
+  }
+  // Letters and digits carry their upper-case character codes in both systems.
+  if ((qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) || (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z))
+    return qtKey;
+  return 0;
+}
+
+void DeskTop::keyPressEvent(QKeyEvent* event) {
+  const int code = KeyCodeOf(event->key());
+  if (code == 0) return QMainWindow::keyPressEvent(event);
+  Run([this, code] { Form_KeyDown(g_, code); });
+}
+
+void DeskTop::keyReleaseEvent(QKeyEvent* event) {
+  const int code = KeyCodeOf(event->key());
+  if (code == 0) return QMainWindow::keyReleaseEvent(event);
+  if (event->isAutoRepeat()) return;  // one key up when the key is let go
+  Run([this, code] { Form_KeyUp(g_, code); });
+}
+
+bool DeskTop::eventFilter(QObject* watched, QEvent* event) {
+  const bool move = event->type() == QEvent::MouseMove;
+  if (watched == background_) {
+    // Moves over the frame reach the background too, passed up from the controls: only the
+    // bare background scrolls.
+    const QPointF pos = move ? static_cast<QMouseEvent*>(event)->position() : QPointF();
+    if (move && !background_->childAt(pos.toPoint())) BackgroundMouseMove(pos);
+  } else if (move || event->type() == QEvent::Enter) {
+    g_.ui.Timer3Enabled = false;
+    SyncTimers();
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void DeskTop::closeEvent(QCloseEvent* event) {
+  timer1_.stop();
+  timer2_.stop();
+  timer3_.stop();
+  if (store_) SaveSettings(g_, *store_);
+  store_ = nullptr;  // saved once, however often the window is asked to close
+  event->accept();
+}
+
+}  // namespace qb::ui

@@ -1,0 +1,23 @@
+// The settings store on QSettings: organisation and application "Quorbit2", one group a section.
+#pragma once
+
+#include <QSettings>
+#include <memory>
+
+#include "core/settings.h"
+
+namespace qb::ui {
+
+class QSettingsStore : public SettingsStore {
+ public:
+  QSettingsStore();
+  std::optional<std::string> Get(const std::string& section, const std::string& key) override;
+  void Set(const std::string& section, const std::string& key, const std::string& value) override;
+  // Writes what was set to the disk now.
+  void Flush() { settings_->sync(); }
+
+ private:
+  std::unique_ptr<QSettings> settings_;
+};
+
+}  // namespace qb::ui
