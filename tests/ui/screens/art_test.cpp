@@ -1,0 +1,93 @@
+// The game's pictures: every source is embedded and renders, at the size and pixel ratio asked.
+#include "ui/screens/art.h"
+
+#include <QDir>
+#include <QImage>
+#include <QSet>
+#include <QTest>
+
+#include "ui/screens/screens.h"
+
+using namespace qb::ui;
+
+namespace {
+
+// How many pixels of the image are not fully transparent.
+int PaintedPixels(const QImage& image) {
+  const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+  int n = 0;
+  for (int y = 0; y < argb.height(); ++y)
+    for (int x = 0; x < argb.width(); ++x)
+      if (qAlpha(argb.pixel(x, y)) > 0) ++n;
+  return n;
+}
+
+}  // namespace
+
+class ArtTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void everySourceIsEmbeddedAndPaints();
+  void toolIconsAreSharpAtHighPixelRatio();
+  void toolIconsDifferFromEachOther();
+  void unknownArtGivesANullPixmap();
+  void appIconHasSeveralSizes();
+};
+
+void ArtTest::everySourceIsEmbeddedAndPaints() {
+  const QStringList sources =
+      QDir(QStringLiteral(ART_SOURCE_DIR)).entryList({QStringLiteral("*.svg")}, QDir::Files);
+  QVERIFY(!sources.isEmpty());
+  QStringList names = ArtNames();
+  for (const QString& file : sources) {
+    const QString name = file.chopped(4);
+    QVERIFY2(names.contains(name), qPrintable(name + " is not listed"));
+  }
+  for (const QString& name : names) {
+    const QSize natural = ArtSize(name);
+    QVERIFY2(!natural.isEmpty(), qPrintable(name + " is not embedded"));
+    const QPixmap p = RenderArt(name, natural, 1.0);
+    QVERIFY(!p.isNull());
+    QCOMPARE(p.size(), natural);
+    const int painted = PaintedPixels(p.toImage());
+    QVERIFY2(painted > natural.width() * natural.height() / 10,
+             qPrintable(name + " paints almost nothing"));
+  }
+}
+
+void ArtTest::toolIconsAreSharpAtHighPixelRatio() {
+  for (int tool = 0; tool < 8; ++tool) {
+    const QPixmap p = RenderArt(ToolArtName(tool), QSize(24, 24), 2.0);
+    QCOMPARE(p.size(), QSize(48, 48));
+    QCOMPARE(p.deviceIndependentSize(), QSizeF(24, 24));
+    QVERIFY(!ToolIcon(tool, 24).isNull());
+  }
+}
+
+// Eight different pictures: a resource mix-up would show one tool's icon for another.
+void ArtTest::toolIconsDifferFromEachOther() {
+  QSet<QByteArray> seen;
+  for (int tool = 0; tool < 8; ++tool) {
+    const QImage image = RenderArt(ToolArtName(tool), QSize(32, 32), 1.0).toImage();
+    seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
+                           static_cast<int>(image.sizeInBytes())));
+  }
+  QCOMPARE(seen.size(), 8);
+}
+
+void ArtTest::unknownArtGivesANullPixmap() {
+  QVERIFY(ToolIcon(-1, 32).isNull());
+  QVERIFY(ToolIcon(8, 32).isNull());
+  QVERIFY(RenderArt(QStringLiteral("no-such-picture"), QSize(10, 10)).isNull());
+  QVERIFY(ToolIcon(0, 0).isNull());
+}
+
+void ArtTest::appIconHasSeveralSizes() {
+  const QIcon icon = AppIcon();
+  QVERIFY(!icon.isNull());
+  QVERIFY(icon.availableSizes().size() >= 4);
+  QVERIFY(PaintedPixels(icon.pixmap(QSize(48, 48)).toImage()) > 48 * 48 / 2);
+}
+
+QTEST_MAIN(ArtTest)
+#include "art_test.moc"
