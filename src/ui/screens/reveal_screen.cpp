@@ -58,7 +58,7 @@ RevealScreen::RevealScreen(Screen screen, const ScreenTexts& texts, QWidget* par
     w->hide();
     CloseOnClick(w);
   }
-  setMinimumWidth(420);
+  setMinimumWidth(540);
 
   connect(&timer_, &QTimer::timeout, this, &RevealScreen::Step);
   timer_.start(200);
