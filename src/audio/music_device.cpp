@@ -5,8 +5,20 @@
 #include <SDL2/SDL_mixer.h>
 
 #include <filesystem>
+#include <fstream>
+#include <string_view>
 
 namespace qb {
+namespace {
+
+// A Standard MIDI File starts with "MThd"; a RIFF MIDI file wraps one.
+bool LooksLikeMidi(const std::string& path) {
+  char head[4] = {};
+  std::ifstream(path, std::ios::binary).read(head, sizeof head);
+  return std::string_view(head, 4) == "MThd" || std::string_view(head, 4) == "RIFF";
+}
+
+}  // namespace
 
 MusicDevice::~MusicDevice() {
   Release();
@@ -24,6 +36,13 @@ void MusicDevice::Open() {
   std::error_code error;
   if (!std::filesystem::is_regular_file(fileName_, error)) {
     log_.Report("music file", "music file " + fileName_ + " not found: playing without music");
+    return;
+  }
+  if (!LooksLikeMidi(fileName_)) {
+    // SDL2_mixer goes by the name and would hand any ".mid" to FluidSynth, which then neither
+    // plays nor fails, so the keep-alive timer would reload it every half second.
+    log_.Report("music load",
+                "music file " + fileName_ + " is not a MIDI file: playing without it");
     return;
   }
   music_ = Mix_LoadMUS(fileName_.c_str());

@@ -141,14 +141,5 @@ TEST(EffectSynthesis, PlacesVoicesInTimeAndScalesToTheTargetPeak) {
   EXPECT_EQ(sfx::RenderEffect(d.voices), samples);  // the same description, the same bytes
 }
 
-TEST(EffectSynthesis, WavImageDescribesItsSamples) {
-  const std::vector<int16_t> samples{0, 1000, -1000, 32767, -32768};
-  const auto bytes = sfx::MakeWav(samples);
-  const auto wave = test::ReadWave(bytes);
-  ASSERT_TRUE(wave);
-  EXPECT_EQ(wave->sampleRate, sfx::kSampleRate);
-  EXPECT_EQ(wave->samples, samples);
-}
-
 }  // namespace
 }  // namespace qb

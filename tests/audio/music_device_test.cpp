@@ -118,7 +118,8 @@ TEST(MusicDevice, AFileThatIsNotMidiIsReportedOnce) {
     EXPECT_NE(audio.MusicMode(), kMusicModeStopped);
   }
   std::filesystem::remove(path);
-  EXPECT_LE(test::LineCount(log), 1) << log.str();
+  EXPECT_EQ(test::LineCount(log), 1) << log.str();
+  EXPECT_NE(log.str().find("is not a MIDI file"), std::string::npos) << log.str();
 }
 
 TEST(AudioWithoutDevice, EverythingIsSilentAndReportedOnce) {
@@ -145,19 +146,6 @@ TEST(AudioWithoutDevice, CommandsBeforeOpenDoNothing) {
   audio.PlayEffect("SOUND", 101);
   StartTrack(audio, kMusic + "/planet9.mid");
   EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
-  EXPECT_EQ(log.str(), "");
-}
-
-TEST(Effects, PlayEveryNumberOnTheDummyDevice) {
-  test::AudioDriver driver("dummy");
-  std::ostringstream log;
-  Audio audio(log);
-  ASSERT_TRUE(audio.Open());
-  for (int round = 0; round < 2; ++round)
-    for (int n = 100; n <= 116; ++n) {
-      audio.PlayEffect("SOUND", n);  // 103, 115 and numbers out of range play nothing
-      audio.PlayEffect("CUSTOM", n);
-    }
   EXPECT_EQ(log.str(), "");
 }
 
