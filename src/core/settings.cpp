@@ -26,9 +26,11 @@ std::string Trim(const std::string& s) {
   return s.substr(a, e - a);
 }
 
+// A decimal whole number. One too large for a long saturates (strtol's own result), so a huge
+// highest level clamps to 20 instead of reading as text.
 std::optional<long> ToNumber(const std::string& text) {
   const std::string t = Trim(text);
-  if (t.empty() || t.size() > 18) return std::nullopt;
+  if (t.empty()) return std::nullopt;
   char* end = nullptr;
   const long v = std::strtol(t.c_str(), &end, 10);
   if (end != t.c_str() + t.size()) return std::nullopt;
