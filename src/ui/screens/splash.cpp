@@ -25,8 +25,8 @@ Splash::Splash(std::function<void()> loadDeskTop, QWidget* parent)
 
 void Splash::Tick() {
   if (done_) return;
-  // The timer waits while a tick runs: loading the play window may run event loops of its own
-  // (a message box), and must neither be entered twice nor have the splash closed under it.
+  // No tick while one runs: loading the play window may run event loops of its own (a message
+  // box), and must neither be entered twice nor have the splash closed under it.
   timer_.stop();
   ++splashTicks_;
   if (splashTicks_ == 1) {

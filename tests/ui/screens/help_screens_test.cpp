@@ -117,15 +117,22 @@ void HelpScreensTest::splashTicksLoadOnceThenClose() {
 // timer must not fire into it, and the splash stays up until it is done.
 void HelpScreensTest::runSplashLoadsOnceEvenWhenLoadingRunsEvents() {
   int loads = 0;
-  bool splashUpWhileLoading = false;
+  auto splashUp = [] {
+    for (QWidget* w : QApplication::topLevelWidgets())
+      if (qobject_cast<Splash*>(w) && w->isVisible()) return true;
+    return false;
+  };
+  bool upBeforeLoading = false, upAfterLoading = false;
   qb::ui::RunSplash([&] {
     ++loads;
-    for (QWidget* w : QApplication::topLevelWidgets())
-      if (qobject_cast<Splash*>(w) && w->isVisible()) splashUpWhileLoading = true;
+    upBeforeLoading = splashUp();
     QTest::qWait(350);
+    upAfterLoading = splashUp();
   });
   QCOMPARE(loads, 1);
-  QVERIFY(splashUpWhileLoading);
+  QVERIFY(upBeforeLoading);
+  QVERIFY(upAfterLoading);
+  QVERIFY(!splashUp());
 }
 
 QTEST_MAIN(HelpScreensTest)
