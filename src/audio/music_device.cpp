@@ -62,8 +62,11 @@ void MusicDevice::Command(MusicCommand command) {
       break;
     case MusicCommand::Play:
       // Once through, not looped: the rules restart a piece that has ended.
-      if (music_ && !Mix_PlayingMusic() && Mix_PlayMusic(music_, 1) != 0)
+      if (music_ && !Mix_PlayingMusic() && Mix_PlayMusic(music_, 1) != 0) {
         log_.Report("music play", std::string("cannot start the music: ") + Mix_GetError());
+        // Closed rather than "stopped", so the keep-alive timer does not retry it forever.
+        Command(MusicCommand::Close);
+      }
       break;
     case MusicCommand::Stop:
       if (music_) Mix_HaltMusic();
