@@ -22,7 +22,8 @@ void SendKey(QWidget* target, int key) {
 }
 
 QString Describe(QWidget* w) {
-  const QString name = w->objectName().isEmpty() ? w->metaObject()->className() : w->objectName();
+  QString name = w->objectName().isEmpty() ? w->metaObject()->className() : w->objectName();
+  name.replace("::", "-");
   return name.isEmpty() ? QStringLiteral("screen") : name;
 }
 

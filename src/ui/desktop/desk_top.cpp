@@ -47,7 +47,7 @@ DeskTop::DeskTop(Game& g, QWidget* parent) : QMainWindow(parent), g_(g) {
   faultReport_ = AskAfterFault;
 
   timer1_.setTimerType(Qt::PreciseTimer);
-  connect(&timer1_, &QTimer::timeout, this, &DeskTop::OnTimer1);
+  connect(&timer1_, &QTimer::timeout, this, &DeskTop::Tick);
   timer2_.setInterval(500);
   connect(&timer2_, &QTimer::timeout, this, [this] { Run([this] { Timer2_Timer(g_); }); });
   timer3_.setInterval(12);
@@ -211,7 +211,7 @@ void DeskTop::ReportFault(const QString& what) {
     ChooseLevel();
 }
 
-void DeskTop::OnTimer1() {
+void DeskTop::Tick() {
   if (modalDepth_ > 0) return;
   Run([this] { Timer1_Timer(g_); });
   ++cycles_;

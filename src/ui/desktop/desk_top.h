@@ -42,6 +42,8 @@ class DeskTop : public QMainWindow {
   void PlayLevel(int tier, int number);
   // Puts the window in the middle of its screen.
   void CentreOnScreen();
+  // One tick of the game timer: one game cycle.
+  void Tick();
 
   void SetSettingsStore(SettingsStore* store) { store_ = store; }
   void SetChooser(Chooser chooser) { chooser_ = std::move(chooser); }
@@ -84,7 +86,6 @@ class DeskTop : public QMainWindow {
   void SyncMenus();
   void SyncScrollBars();
   void SyncTimers();
-  void OnTimer1();
   void OnTimer3();
   void BackgroundMouseMove(const QPointF& pos);
   void ReportFault(const QString& what);

@@ -1,0 +1,103 @@
+// Painting the model: squares, faces, colours, the overview map, and repainting only changes.
+#include <QtTest>
+
+#include "ui/desktop/qt_colour.h"
+#include "ui/desktop/square_painter.h"
+#include "window_fixture.h"
+
+using qb::test::Window;
+
+class ViewTest : public QObject {
+  Q_OBJECT
+ private Q_SLOTS:
+  void coloursAreBlueGreenRed();
+  void squaresAreWholeAndNeverUnderTwelvePixels();
+  void facesLookTheWayTheyWalk();
+  void aCycleRepaintsOnlyWhatChanged();
+  void overviewMapIsSizedFromTwips();
+
+ private:
+  static QImage Square(const qb::ViewCell& cell, int side) {
+    QImage img(side, side, QImage::Format_RGB32);
+    QPainter p(&img);
+    qb::ui::PaintSquare(p, img.rect(), cell);
+    return img;
+  }
+};
+
+void ViewTest::coloursAreBlueGreenRed() {
+  QCOMPARE(qb::ui::ToQColor(qb::kPauseOn, QPalette()), QColor(255, 128, 0));
+  QCOMPARE(qb::ui::ToQColor(qb::kCrowdColour, QPalette()), QColor(0x53, 0x5C, 0xA2));
+  QPalette palette;
+  palette.setColor(QPalette::Window, QColor(1, 2, 3));
+  QCOMPARE(qb::ui::ToQColor(qb::kSystemWindow, palette), QColor(1, 2, 3));
+}
+
+void ViewTest::squaresAreWholeAndNeverUnderTwelvePixels() {
+  Window w;
+  w.Play();
+  auto* view = w.desk->Picture1();
+  view->SetSquareSize(5);
+  QCOMPARE(view->SquareDevicePixels(), 12);
+  QCOMPARE(view->Backing().width(), 40 * 12);
+  view->SetSquareSize(17);
+  QCOMPARE(view->SquareDevicePixels(), 17);
+  QCOMPARE(view->width(), 40 * 17);
+  // The floor of the walk level (row 21, kind 2) fills its squares edge to edge.
+  view->Sync(w.g.pic.Picture1);
+  const QRgb floor = qb::ui::ToRgb(w.g.SquareColour(qb::SoftWall));
+  const QImage& img = view->Backing();
+  QCOMPARE(img.pixel(5 * 17, 21 * 17), floor);
+  QCOMPARE(img.pixel(5 * 17 + 16, 21 * 17 + 16), floor);
+  QCOMPARE(img.pixel(5 * 17, 20 * 17 + 16), qRgb(255, 255, 255));
+}
+
+void ViewTest::facesLookTheWayTheyWalk() {
+  qb::ViewCell right{qb::kBlack, true, 1, false};
+  qb::ViewCell left{qb::kBlack, true, -1, false};
+  const QImage r = Square(right, 20), l = Square(left, 20);
+  QVERIFY(r != l);
+  QCOMPARE(r.mirrored(true, false), l);
+  int white = 0;
+  for (int y = 0; y < 20; ++y)
+    for (int x = 0; x < 20; ++x) white += r.pixel(x, y) == qRgb(255, 255, 255);
+  QVERIFY(white >= 6 && white < 100);  // eyes and a smile, on a body that stays black
+  QCOMPARE(r.pixel(0, 0), qRgb(0, 0, 0));
+  qb::ViewCell climbing = right;
+  climbing.climbing = true;
+  QVERIFY(Square(climbing, 20) != r);
+  qb::ViewCell plain{qb::kYellow, false, 1, false};
+  QCOMPARE(Square(plain, 12).pixel(6, 6), qRgb(255, 255, 0));
+}
+
+void ViewTest::aCycleRepaintsOnlyWhatChanged() {
+  Window w;
+  w.Play();
+  w.Ticks(12);  // three characters walk
+  auto* view = w.desk->Picture1();
+  long most = 0;
+  for (int i = 0; i < 20; ++i) {
+    const long before = view->SquaresPainted();
+    w.desk->Tick();
+    most = std::max(most, view->SquaresPainted() - before);
+  }
+  QVERIFY(most > 0);
+  QVERIFY2(most <= 12, qPrintable(QString::number(most)));
+  // What the window shows agrees with the model, square by square.
+  const int n = view->SquareDevicePixels();
+  for (int vy = 0; vy < 40; ++vy)
+    for (int vx = 0; vx < 40; ++vx)
+      QCOMPARE(view->Backing().pixel(vx * n, vy * n),
+               qb::ui::ToRgb(w.g.pic.Picture1.At(vx, vy).colour));
+}
+
+void ViewTest::overviewMapIsSizedFromTwips() {
+  Window w;
+  w.Play();
+  auto* map = w.desk->Panel()->Map();
+  QCOMPARE(map->width(), 120);  // 60 of 120 columns: half of 240 pixels
+  QCOMPARE(map->height(), static_cast<int>(std::lround(44 / 80.0 * 1935 * 240 / 3135)));
+}
+
+QTEST_MAIN(ViewTest)
+#include "view_test.moc"
