@@ -1,0 +1,165 @@
+// The checks shared by the fuzz targets and the regression tests.
+#include "input_checks.h"
+
+#include <map>
+#include <optional>
+
+#include "core/cycle.h"
+#include "core/fault.h"
+#include "core/level_file.h"
+#include "core/loader.h"
+#include "core/settings.h"
+#include "fuzz_host.h"
+#include "level_text.h"
+#include "tools/replay.h"
+#include "tools/use_tool.h"
+
+namespace qb::fuzz {
+namespace {
+
+constexpr int kCycles = 40;
+
+// Plays a loaded level; the input's bytes, read in a circle, pick a tool press before each cycle.
+void Play(Game& g, const std::vector<uint8_t>& bytes) {
+  try {
+    for (int cycle = 0; cycle < kCycles; ++cycle) {
+      const uint8_t pick = bytes[static_cast<std::size_t>(cycle * 31) % bytes.size()];
+      if (pick % 3 == 0) UseTool(g, (pick / 3) % kToolCount);
+      Timer1_Timer(g);
+    }
+  } catch (const ProgramFault&) {
+    // The window stops the game timer on a fault; the run ends here as the game would.
+  }
+}
+
+class MapStore : public SettingsStore {
+ public:
+  std::map<std::string, std::string> values;
+  std::optional<std::string> Get(const std::string& section, const std::string& key) override {
+    const auto it = values.find(section + "/" + key);
+    if (it == values.end()) return std::nullopt;
+    return it->second;
+  }
+  void Set(const std::string& section, const std::string& key, const std::string& value) override {
+    values[section + "/" + key] = value;
+  }
+};
+
+struct SettingsSeen {
+  std::array<int, 4> highest{};
+  std::array<bool, 9> options{};
+  int32_t tier = 0;
+  bool operator==(const SettingsSeen&) const = default;
+};
+
+SettingsSeen Seen(const Game& g) {
+  SettingsSeen s;
+  for (int t = 0; t < 4; ++t) s.highest[static_cast<std::size_t>(t)] = g.HighestLevel(t);
+  for (int o = 0; o < 9; ++o) s.options[static_cast<std::size_t>(o)] = g.ui.OptionsChecked(o);
+  s.tier = g.CurrentSkill;
+  return s;
+}
+
+}  // namespace
+
+std::string CheckLevelFile(const std::vector<uint8_t>& bytes) {
+  const LevelRead read = ReadLevel(bytes);
+  if (read.status == ReadStatus::Unsupported)
+    return read.problem.empty() ? "a refused level without a reason" : "";
+  if (read.status == ReadStatus::Missing) return "";
+  const LevelRead again = ReadLevel(WriteLevel(read.data));
+  if (again.status != ReadStatus::Ok || !again.shortAt.empty())
+    return "the written level does not read back whole: " + again.problem + again.shortAt;
+  if (!(again.data == read.data)) return "writing then reading changed the level";
+
+  QuietHost host;
+  Game g{host};
+  g.ui.OptionsChecked(OptSound) = true;
+  g.ui.OptionsChecked(OptReplay) = true;
+  g.SkipTitle = True;
+  ApplyLevel(g, read.data);
+  g.Leader = 0;
+  try {
+    SetUpLevel(g);
+  } catch (const ProgramFault&) {
+    return "";  // reported to the player by the window; nothing more to play
+  }
+  g.ui.Timer1Enabled = true;
+  Play(g, bytes);
+  return "";
+}
+
+std::string CheckLevelText(std::string_view text) {
+  using namespace leveltext;
+  const ParsedLevel first = ParseLevelText(text);
+  for (const Diagnostic& d : first.diagnostics)
+    if (d.message.empty()) return "a diagnostic without a message";
+  if (!first.ok()) return "";
+  const std::string printed = PrintLevelText(first.data);
+  const ParsedLevel second = ParseLevelText(printed);
+  if (!second.ok())
+    return "the printed level does not parse: " +
+           FormatDiagnostic("printed", second.diagnostics[0]);
+  if (!(Normalized(second.data) == Normalized(first.data)))
+    return "printing then parsing changed the level";
+  if (PrintLevelText(second.data) != printed) return "printing the level again gives other text";
+  const LevelRead compiled = ReadLevel(WriteLevel(first.data));
+  if (compiled.status != ReadStatus::Ok)
+    return "the game refuses the compiled level: " + compiled.problem;
+  if (!(compiled.data == first.data)) return "the compiled level reads back different";
+  return "";
+}
+
+std::string CheckReplay(const std::string& text) {
+  const ReplayFile parsed = ParseReplay(text);
+  if (parsed.slots.size() != static_cast<std::size_t>(kReplaySlots))
+    return "the replay does not have one slot a cycle";
+  if (!parsed.error.empty())
+    return parsed.error.rfind("line ", 0) == 0 ? "" : "an error without a line";
+  QuietHost host;
+  Game g{host};
+  for (int t = 0; t < kReplaySlots; ++t) {
+    const std::string& slot = parsed.slots[static_cast<std::size_t>(t)];
+    if (slot.find_first_not_of("CKBDJRXLE") != std::string::npos)
+      return "slot " + std::to_string(t) + " holds a letter that is not a replay letter";
+    g.ReplayLog(t) = slot;
+  }
+  const ReplayFile again = ParseReplay(FormatReplay(g));
+  if (!again.error.empty()) return "the written replay does not parse: " + again.error;
+  if (again.slots != parsed.slots) return "writing then parsing changed the replay";
+  return "";
+}
+
+std::string CheckSettings(const std::string& input) {
+  MapStore store;
+  std::size_t start = 0;
+  while (start < input.size()) {
+    std::size_t end = input.find('\n', start);
+    if (end == std::string::npos) end = input.size();
+    const std::string line = input.substr(start, end - start);
+    const auto eq = line.find('=');
+    if (eq != std::string::npos) store.values[line.substr(0, eq)] = line.substr(eq + 1);
+    start = end + 1;
+  }
+  QuietHost host;
+  Game g{host};
+  const auto notes = LoadSettings(g, store);
+  for (const std::string& n : notes)
+    if (n.empty()) return "an empty note";
+  for (int t = 0; t < 4; ++t)
+    if (g.HighestLevel(t) < 1 || g.HighestLevel(t) > 20)
+      return "highest level " + std::to_string(g.HighestLevel(t)) + " of tier " +
+             std::to_string(t) + " is outside 1 to 20";
+  if (g.CurrentSkill < 0 || g.CurrentSkill > 4)
+    return "tier " + std::to_string(g.CurrentSkill) + " is outside 0 to 4";
+  const SettingsSeen loaded = Seen(g);
+  MapStore saved;
+  SaveSettings(g, saved);
+  Game reloaded{host};
+  const auto notesAgain = LoadSettings(reloaded, saved);
+  if (!notesAgain.empty()) return "the saved settings load with a note: " + notesAgain[0];
+  if (!(Seen(reloaded) == loaded)) return "saving then loading changed the settings";
+  return "";
+}
+
+}  // namespace qb::fuzz
