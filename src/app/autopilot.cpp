@@ -91,6 +91,13 @@ void Autopilot::OnCycle(long cycles) {
   if (options_.fast && !fastDone_ && g.ui.Timer1Interval == 350) {
     fastDone_ = true;
     desk_->Menus().levelCmd[1]->trigger();
+    fastFrom_ = cycles;
+    paintedFrom_ = desk_->Picture1()->SquaresPainted();
+    // The measurement: how many cycles fast play runs in ten seconds, and what they paint.
+    QTimer::singleShot(10000, this, [this] {
+      fastCycles_ = desk_->CyclesRun() - fastFrom_;
+      fastPainted_ = desk_->Picture1()->SquaresPainted() - paintedFrom_;
+    });
   }
   while (nextKey_ < options_.keys.size() && options_.keys[nextKey_].first <= cycles) {
     SendKey(desk_, options_.keys[nextKey_].second);
@@ -102,9 +109,14 @@ void Autopilot::Finish() {
   poll_.stop();
   if (!desk_) return QApplication::quit();
   if (!options_.finalShot.isEmpty()) desk_->grab().save(options_.finalShot);
-  if (options_.report)
+  if (options_.report) {
     std::printf("cycles %ld painted %ld\n", desk_->CyclesRun(),
                 desk_->Picture1()->SquaresPainted());
+    if (fastCycles_ >= 0)
+      std::printf("fast play: %ld cycles in 10 s, %ld squares painted (%.1f a cycle)\n",
+                  fastCycles_, fastPainted_,
+                  fastCycles_ > 0 ? double(fastPainted_) / fastCycles_ : 0.0);
+  }
   std::fflush(stdout);
   // A modal screen still up would hold the window: close it first.
   while (QWidget* modal = QApplication::activeModalWidget()) {

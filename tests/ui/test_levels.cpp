@@ -17,4 +17,14 @@ LevelData WalkLevel(int number, const std::string& title) {
   return d;
 }
 
+LevelData PacingLevel(int number) {
+  std::vector<std::string> rows(44, std::string(60, '.'));
+  for (auto& row : rows) row.front() = row.back() = 'M';
+  rows[21] = std::string(60, '#');
+  LevelData d = MakeLevel(rows, 10, 18, 20, 20, 3, 999);
+  d.Title = "Pacing";
+  d.Number = number;
+  return d;
+}
+
 }  // namespace qb::test
