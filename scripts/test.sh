@@ -9,3 +9,5 @@ cmake --build "$build"
 export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
 export SDL_AUDIODRIVER=${SDL_AUDIODRIVER:-dummy}
 ctest --test-dir "$build" --output-on-failure -j2
+# The rules and every test again under AddressSanitizer and UndefinedBehaviorSanitizer.
+bash scripts/sanitize.sh
