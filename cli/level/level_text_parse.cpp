@@ -40,8 +40,22 @@ std::vector<std::string_view> Words(std::string_view s) {
   return out;
 }
 
+// Quotes text from the file for a message: control bytes are written as \xNN so that they cannot
+// act on the terminal, and a long text is cut.
 std::string Quoted(std::string_view s) {
-  return "\"" + std::string(s) + "\"";
+  std::string out = "\"";
+  for (std::size_t i = 0; i < s.size(); ++i) {
+    if (i == 60) return out + "...\"";
+    const auto c = static_cast<unsigned char>(s[i]);
+    if (c < 0x20 || c == 0x7F) {
+      char hex[8];
+      std::snprintf(hex, sizeof hex, "\\x%02X", c);
+      out += hex;
+    } else {
+      out += s[i];
+    }
+  }
+  return out + "\"";
 }
 
 class Parser {
@@ -333,6 +347,15 @@ void Parser::CheckAfterGrid() {
 
 ParsedLevel Parser::Run(std::string_view text) {
   if (text.substr(0, 3) == "\xEF\xBB\xBF") text.remove_prefix(3);  // some editors start with a BOM
+  // A NUL byte never belongs in a text; a compiled level does hold them. Say so once instead of
+  // echoing its bytes line by line.
+  if (const auto nul = text.find('\0'); nul != std::string_view::npos) {
+    const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<long>(nul), '\n');
+    Error(static_cast<int>(line),
+          "the file holds binary bytes, so it is not a level text (a compiled level is turned "
+          "into text with \"quorbit-level decompile\")");
+    return std::move(out_);
+  }
   std::vector<std::string_view> lines;
   for (std::size_t start = 0; start <= text.size();) {
     auto end = text.find('\n', start);
