@@ -17,7 +17,8 @@
 namespace qb::fuzz {
 namespace {
 
-constexpr int kCycles = 40;
+constexpr int kCycles = 40;        // cycles a loaded level is played
+constexpr int kReplayCycles = 80;  // cycles a replay is played
 
 // Plays a loaded level as a player would; the input's bytes, read in a circle, pick a command
 // before each cycle: a tool press, an arrow key or a click on the overview map.
@@ -40,36 +41,47 @@ void Play(Game& g, const std::vector<uint8_t>& bytes) {
   }
 }
 
+// A level from rows of characters: '.' empty, '#' soft wall, 'b' bomb wall, 'M' metal, '~' water,
+// 'c' crumble, 'D' exit door; one entrance at (1, 1), every tool in stock.
+LevelData RowsLevel(const std::vector<std::string>& rows) {
+  LevelData d;
+  d.Title = "Fuzz";
+  d.Number = 1;
+  d.CharactersTotal = 6;
+  d.CharactersNeeded = 2;
+  d.TimeLeft = 300;
+  d.ReleaseInterval = 2;
+  d.ToolStock.fill(4);
+  d.GridWidth = static_cast<int16_t>(rows.at(0).size());
+  d.GridHeight = static_cast<int32_t>(rows.size());
+  d.Squares.assign(static_cast<std::size_t>(d.GridWidth * d.GridHeight), Empty);
+  static const std::map<char, int16_t> kinds = {
+      {'.', Empty}, {'#', SoftWall},    {'b', BombWall}, {'M', MetalWall},
+      {'~', Water}, {'c', CrumbleWall}, {'D', ExitDoor}};
+  for (int y = 0; y < d.GridHeight; ++y)
+    for (int x = 0; x < d.GridWidth; ++x)
+      d.Square(x, y) = kinds.at(rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]);
+  d.Slots[0].EntranceActive = -1;
+  d.Slots[0].EntranceX = 1;
+  d.Slots[0].EntranceY = 1;
+  return d;
+}
+
+Game Loaded(QuietHost& host, const LevelData& d) {
+  Game g{host};
+  g.SkipTitle = True;
+  g.ui.OptionsChecked(OptReplay) = true;
+  host.file = WriteLevel(d);
+  if (LoadLevel(g, "fixed.lvl") != LoadResult::Loaded) Finding("a fixed level is refused");
+  return g;
+}
+
 // A small level some cycles under way, with a block placed and the view scrolled: made once,
 // copied for each input that is loaded over it.
 const Game& RunningGame(QuietHost& host) {
   static const Game running = [&host] {
-    const std::vector<std::string> rows = {std::string(50, '.'), std::string(50, '.'),
-                                           std::string(47, '.') + "D..", std::string(50, '#')};
-    LevelData d;
-    d.Title = "Running";
-    d.Number = 1;
-    d.CharactersTotal = 5;
-    d.CharactersNeeded = 2;
-    d.TimeLeft = 300;
-    d.ReleaseInterval = 2;
-    d.ToolStock[ToolBlock] = 2;
-    d.GridWidth = 50;
-    d.GridHeight = static_cast<int32_t>(rows.size());
-    d.Squares.assign(static_cast<std::size_t>(d.GridWidth * d.GridHeight), Empty);
-    for (int y = 0; y < d.GridHeight; ++y)
-      for (int x = 0; x < d.GridWidth; ++x)
-        if (rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] != '.')
-          d.Square(x, y) = rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] == 'D'
-                               ? int16_t{ExitDoor}
-                               : int16_t{SoftWall};
-    d.Slots[0].EntranceActive = -1;
-    d.Slots[0].EntranceX = 1;
-    d.Slots[0].EntranceY = 2;
-    Game g{host};
-    g.SkipTitle = True;
-    host.file = WriteLevel(d);
-    if (LoadLevel(g, "running.lvl") != LoadResult::Loaded) Finding("the running level is refused");
+    Game g = Loaded(host, RowsLevel({std::string(50, '.'), std::string(50, '.'),
+                                     std::string(47, '.') + "D..", std::string(50, '#')}));
     for (int i = 0; i < 6; ++i) Timer1_Timer(g);
     ToolButtonDown(g, ToolBlock);
     Form_KeyUp(g, KeyRight);
@@ -77,6 +89,19 @@ const Game& RunningGame(QuietHost& host) {
     return g;
   }();
   return running;
+}
+
+// A level with something for every tool to act on, for replays to play on.
+const Game& Playground(QuietHost& host) {
+  static const Game ground = Loaded(host, RowsLevel({
+                                              "M.........................c......M",
+                                              "M.................................",
+                                              "M.........b.........M.............",
+                                              "M.........b.........M.......~~..D.",
+                                              "###########.....##########c###MMMM",
+                                              "MMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMM",
+                                          }));
+  return ground;
 }
 
 bool SameGame(const Game& a, const Game& b) {
@@ -203,6 +228,18 @@ std::string CheckReplay(const std::string& text) {
   const ReplayFile again = ParseReplay(FormatReplay(g));
   if (!again.error.empty()) return "the written replay does not parse: " + again.error;
   if (again.slots != parsed.slots) return "writing then parsing changed the replay";
+
+  // Played as the headless runner plays it; a fault stops the run as it stops the game.
+  static QuietHost playHost;
+  Game play = Playground(playHost);
+  for (int t = 0; t < kReplaySlots; ++t)
+    play.ReplayLog(t) = parsed.slots[static_cast<std::size_t>(t)];
+  play.ReplayPlaying = play.ReplayLog(0) != "E" ? True : False;
+  play.ReplayTick = 0;
+  try {
+    for (int cycle = 0; cycle < kReplayCycles; ++cycle) Timer1_Timer(play);
+  } catch (const ProgramFault&) {
+  }
   return "";
 }
 

@@ -21,8 +21,8 @@ std::string CheckLevelFile(const std::vector<uint8_t>& bytes);
 // compiled file is one the game plays.
 std::string CheckLevelText(std::string_view text);
 
-// A replay file: parsed; when it parses, every slot holds replay letters only, and writing the
-// slots back as replay text gives the same slots.
+// A replay file: parsed; when it parses, every slot holds replay letters only, writing the slots
+// back as replay text gives the same slots, and the replay plays on a small level for a while.
 std::string CheckReplay(const std::string& text);
 
 // A settings store filled from the input (one "section/key=value" a line): loaded, every value
