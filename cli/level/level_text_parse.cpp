@@ -114,12 +114,14 @@ void Parser::Title(int line, std::string_view raw, std::size_t valueStart) {
   std::string_view value = Trim(raw.substr(valueStart));
   std::string_view text;
   if (!value.empty() && value[0] == '"') {
-    // A quoted title runs to the first quote that only blanks or a comment follow.
+    // A quoted title runs to the first quote that only blanks or a comment follow. As anywhere
+    // else, a '#' starts a comment only after a blank: in "a"#b" the title is a"#b.
     bool closed = false;
     for (std::size_t i = 1; i < value.size(); ++i) {
       if (value[i] != '"') continue;
-      const std::string_view rest = Trim(value.substr(i + 1));
-      if (rest.empty() || rest[0] == '#') {
+      const std::string_view after = value.substr(i + 1);
+      const std::string_view rest = Trim(after);
+      if (rest.empty() || (rest[0] == '#' && (after[0] == ' ' || after[0] == '\t'))) {
         text = value.substr(1, i - 1);
         closed = true;
         break;
