@@ -10,6 +10,8 @@ void DrawViewFrame(Game& g, bool show);
 void DrawSquare(Game& g, int x, int y, int kind);
 void DrawBlock(Game& g, int x, int y, Colour colour);
 void DrawChar(Game& g, int index);
+// DrawChar in a given colour (the shock's flashes show a character in its own colour).
+void DrawCharIn(Game& g, int index, Colour colour);
 void EraseChar(Game& g, int index);
 // The colour a character is drawn in now.
 Colour CharColour(const Game& g, int index);

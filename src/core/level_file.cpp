@@ -1,6 +1,7 @@
 // Reading and writing the binary level file.
 #include "core/level_file.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -119,9 +120,10 @@ class Reader {
     while (e > a && s[e - 1] == ' ') --e;
     const std::string t = s.substr(a, e - a);
     if (t.empty()) return Fail(std::string(field) + ": the text \"" + s + "\" is not a number");
-    char* end = nullptr;
-    const double d = std::strtod(t.c_str(), &end);
-    if (end != t.c_str() + t.size())
+    // from_chars reads the same whatever the locale (the window sets the system's locale).
+    double d = 0;
+    const auto [end, error] = std::from_chars(t.data(), t.data() + t.size(), d);
+    if (error != std::errc() || end != t.data() + t.size())
       return Fail(std::string(field) + ": the text \"" + s + "\" is not a number");
     return Whole(d, field);
   }

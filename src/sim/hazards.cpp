@@ -84,9 +84,7 @@ void Shock(Game& g, int index) {
     DrawBlock(g, c.X, c.Y, QBColor(14));
     c.Shocked = To16(stage + 1, "Shocked");
   } else if (stage == 2 || stage == 4) {
-    const Colour own = index == g.Leader ? QBColor(0) : g.CrowdColour;
-    const int vx = c.X - g.ViewX, vy = c.Y - g.ViewY;
-    g.pic.Picture1.FillFace(vx, vy, own, c.Dir, false);
+    DrawCharIn(g, index, index == g.Leader ? QBColor(0) : g.CrowdColour);
     c.Shocked = To16(stage + 1, "Shocked");
   } else {
     EraseChar(g, index);

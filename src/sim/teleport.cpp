@@ -33,8 +33,8 @@ void Teleport(Game& g, int index) {
       break;
     }
     default:
-      c.Teleporting = 0;
       DrawBlock(g, c.X, c.Y, own);
+      c.Teleporting = 0;
       break;
   }
 }

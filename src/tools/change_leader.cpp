@@ -9,8 +9,8 @@
 namespace qb {
 
 void MoveViewTo(Game& g, int viewX, int viewY) {
-  viewX = std::min(std::max(viewX, 0), g.ui.HScrollMax);
-  viewY = std::min(std::max(viewY, 0), g.ui.VScrollMax);
+  viewX = std::clamp(viewX, 0, std::max(g.ui.HScrollMax, 0));
+  viewY = std::clamp(viewY, 0, std::max(g.ui.VScrollMax, 0));
   if (viewX == g.ViewX && viewY == g.ViewY) return;
   g.ViewX = viewX;
   g.ViewY = To16(viewY, "ViewY");

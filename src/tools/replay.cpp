@@ -1,6 +1,7 @@
 // The replay of the previous attempt, and replay files.
 #include "tools/replay.h"
 
+#include <cctype>
 #include <sstream>
 
 #include "tools/use_tool.h"
@@ -33,23 +34,31 @@ ReplayFile ParseReplay(const std::string& text) {
   std::istringstream in(text);
   std::string line;
   int number = 0;
+  const auto blank = [](char ch) { return ch == ' ' || ch == '\t'; };
   while (std::getline(in, line)) {
     ++number;
     if (!line.empty() && line.back() == '\r') line.pop_back();
-    const auto first = line.find_first_not_of(" \t");
-    if (first == std::string::npos || line[first] == '#') continue;
-    std::istringstream fields(line);
-    long cycle = -1;
-    std::string letters, extra;
+    if (line.find_first_not_of(" \t") == std::string::npos || line[0] == '#') continue;
     const auto fail = [&](const std::string& why) {
       out.error = "line " + std::to_string(number) + ": " + why;
       return out;
     };
-    if (!(fields >> cycle)) return fail("expected a cycle number, found \"" + line + "\"");
-    if (cycle < 0 || cycle > kLastReplayTick)
-      return fail("cycle " + std::to_string(cycle) + " is not 0 to 2000");
-    if (!(fields >> letters)) return fail("no tool letters after the cycle number");
-    if (fields >> extra) return fail("unexpected text \"" + extra + "\" after the letters");
+    // <cycle> <letters>: digits, blanks, letters, nothing after but blanks.
+    std::size_t i = 0;
+    while (i < line.size() && std::isdigit(static_cast<unsigned char>(line[i]))) ++i;
+    if (i == 0) return fail("expected a cycle number, found \"" + line + "\"");
+    if (i > 4 || std::stoi(line.substr(0, i)) > kLastReplayTick)
+      return fail("cycle " + line.substr(0, i) + " is not 0 to 2000");
+    const int cycle = std::stoi(line.substr(0, i));
+    const std::size_t gap = i;
+    while (i < line.size() && blank(line[i])) ++i;
+    if (i == line.size()) return fail("no tool letters after the cycle number");
+    if (i == gap) return fail("a blank must separate the cycle number from the letters");
+    const std::size_t lettersAt = i;
+    while (i < line.size() && !blank(line[i])) ++i;
+    const std::string letters = line.substr(lettersAt, i - lettersAt);
+    while (i < line.size() && blank(line[i])) ++i;
+    if (i != line.size()) return fail("unexpected text \"" + line.substr(i) + "\" after the letters");
     for (char ch : letters)
       if (std::string("CKBDJRXLE").find(ch) == std::string::npos)
         return fail(std::string("'") + ch + "' is not a replay letter (C K B D J R X L E)");

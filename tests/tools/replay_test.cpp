@@ -100,6 +100,11 @@ TEST(ReplayFile, ParsesCyclesJoinsLinesAndNamesTheBadLine) {
   EXPECT_EQ(ParseReplay("x\n").error.rfind("line 1:", 0), 0u);
   EXPECT_EQ(ParseReplay("1 Q\n").error, "line 1: 'Q' is not a replay letter (C K B D J R X L E)");
   EXPECT_EQ(ParseReplay("1\n").error, "line 1: no tool letters after the cycle number");
+  EXPECT_EQ(ParseReplay("5C\n").error,
+            "line 1: a blank must separate the cycle number from the letters");
+  EXPECT_EQ(ParseReplay("+7 K\n").error.rfind("line 1: expected a cycle number", 0), 0u);
+  EXPECT_EQ(ParseReplay("  # indented\n").error.rfind("line 1:", 0), 0u);
+  EXPECT_EQ(ParseReplay("99999999999 B\n").error, "line 1: cycle 99999999999 is not 0 to 2000");
 }
 
 }  // namespace
