@@ -43,6 +43,8 @@ void Autopilot::Start() {
 void Autopilot::Attach(ui::DeskTop* desk) {
   desk_ = desk;
   connect(desk_, &ui::DeskTop::cycleRan, this, &Autopilot::OnCycle);
+  // The time ran out while start-up was still showing its screens: finish once the main loop runs.
+  if (finishPending_) QTimer::singleShot(0, this, &Autopilot::Finish);
 }
 
 void Autopilot::Poll() {
@@ -106,8 +108,14 @@ void Autopilot::OnCycle(long cycles) {
 }
 
 void Autopilot::Finish() {
+  if (!desk_) {
+    // Start-up has not handed over the window yet (a title card may be up): close the screen
+    // so that start-up can return, and finish when the window is attached.
+    finishPending_ = true;
+    if (QWidget* modal = QApplication::activeModalWidget()) modal->close();
+    return;
+  }
   poll_.stop();
-  if (!desk_) return QApplication::quit();
   if (!options_.finalShot.isEmpty()) desk_->grab().save(options_.finalShot);
   if (options_.report) {
     std::printf("cycles %ld painted %ld\n", desk_->CyclesRun(),

@@ -45,6 +45,7 @@ class Autopilot : public QObject {
   qint64 modalSince_ = 0;
   int shots_ = 0;
   std::size_t nextKey_ = 0;
+  bool finishPending_ = false;
   bool fastDone_ = false;
   long fastFrom_ = -1;          // cycles run when fast play began
   long paintedFrom_ = 0;        // squares painted by then

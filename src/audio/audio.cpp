@@ -27,6 +27,9 @@ Audio::~Audio() {
 bool Audio::Open() {
   if (open_) return true;
   if (log_.Reported("device")) return false;  // tried before and failed: stay silent
+  // SDL would otherwise catch SIGINT and SIGTERM for an event loop the game does not run, and the
+  // game could no longer be stopped by them.
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
     log_.Report("device", std::string("no audio device (") + SDL_GetError() +
                               "): playing without sound or music");
