@@ -9,7 +9,8 @@
 namespace qb {
 namespace {
 
-enum class Landing { Moved, Dead, Blocked };
+// Where a stage of the jump left the leader. Fell: he died leaving the level and is not drawn.
+enum class Landing { Moved, Dead, Blocked, Fell };
 
 void ShockLeader(Game& g) {
   CharRecord& c = g.Chars(g.Leader);
@@ -41,6 +42,27 @@ Landing Descend(Game& g, int n, int t) {
   return Landing::Blocked;
 }
 
+// Stages 1 and 2: rising onto (n, u); above the top row the leader leaves the level.
+Landing Rise(Game& g, int n, int u) {
+  if (u < 0) {
+    Die(g, g.Leader);
+    return Landing::Fell;
+  }
+  CharRecord& c = g.Chars(g.Leader);
+  const int k = g.Grid(n, u);
+  if (k == Empty) {
+    c.X = To16(n, "X");
+    c.Y = To16(u, "Y");
+    return Landing::Moved;
+  }
+  if (k == ElectricWall) {
+    g.JumpStage = 0;
+    ShockLeader(g);
+    return Landing::Dead;
+  }
+  return Landing::Blocked;
+}
+
 }  // namespace
 
 bool Jump(Game& g) {
@@ -56,19 +78,10 @@ bool Jump(Game& g) {
     case 1: {
       PlayEffect(g, 115, "CUSTOM");
       SpendTool(g, ToolJump, /*prepend=*/true);
-      if (u < 0) {
-        Die(g, g.Leader);
-        return busy;
-      }
-      const int k = g.Grid(n, u);
-      if (k == Empty) {
-        c.X = To16(n, "X");
-        c.Y = To16(u, "Y");
-        g.JumpStage = 2;
-      } else if (k == ElectricWall) {
-        g.JumpStage = 0;
-        ShockLeader(g);
-      } else {
+      const Landing l = Rise(g, n, u);
+      if (l == Landing::Fell) return busy;
+      if (l == Landing::Moved) g.JumpStage = 2;
+      if (l == Landing::Blocked) {  // the jump fails where it stands; the jump spent is gone
         g.ui.Label1Back(ToolJump) = kWhite;
         g.ui.Label2Back(ToolJump) = kWhite;
         g.JumpStage = 0;
@@ -76,19 +89,10 @@ bool Jump(Game& g) {
       break;
     }
     case 2: {
-      if (u < 0) {
-        Die(g, g.Leader);
-        return busy;
-      }
-      const int k = g.Grid(n, u);
-      if (k == Empty) {
-        c.X = To16(n, "X");
-        c.Y = To16(u, "Y");
-        g.JumpStage = 3;
-      } else if (k == ElectricWall) {
-        g.JumpStage = 0;
-        ShockLeader(g);
-      } else {
+      const Landing l = Rise(g, n, u);
+      if (l == Landing::Fell) return busy;
+      if (l == Landing::Moved) g.JumpStage = 3;
+      if (l == Landing::Blocked) {  // he walks on from here in this same tick
         g.JumpStage = 0;
         busy = false;
       }

@@ -91,6 +91,34 @@ bool Land(Game& g, int index) {
   return false;
 }
 
+// Walking or stepping up into square (x, y): an empty square is entered, an electric wall
+// shocks, a door saves, a teleport takes the character in. Returns false for any other square,
+// which blocks the way.
+bool StepInto(Game& g, int index, int x, int y) {
+  CharRecord& c = g.Chars(index);
+  switch (g.Grid(x, y)) {
+    case Empty:
+      c.X = To16(x, "X");
+      c.Y = To16(y, "Y");
+      return true;
+    case ElectricWall:
+      StartShock(g, index);
+      return true;
+    case ExitDoor:
+      c.Out = 0;
+      GoInDoor(g, index);
+      return true;
+    case TeleportSquare:
+      c.Teleporting = 1;
+      c.X = To16(x, "X");
+      c.Y = To16(y, "Y");
+      Teleport(g, index);
+      return true;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 void MoveChar(Game& g, int index) {
@@ -107,25 +135,7 @@ void MoveChar(Game& g, int index) {
     Die(g, index);
     return;
   }
-  switch (g.Grid(n, c.Y)) {
-    case Empty:
-      c.X = To16(n, "X");
-      return;
-    case ElectricWall:
-      StartShock(g, index);
-      return;
-    case ExitDoor:
-      c.Out = 0;
-      GoInDoor(g, index);
-      return;
-    case TeleportSquare:
-      c.Teleporting = 1;
-      c.X = To16(n, "X");
-      Teleport(g, index);
-      return;
-    default:
-      break;
-  }
+  if (StepInto(g, index, n, c.Y)) return;
 
   const int u = c.Y - 1;
   if (u < 0) {
@@ -133,33 +143,14 @@ void MoveChar(Game& g, int index) {
     return;
   }
   if (IsCrumble(g.Grid(n, c.Y)) && g.Grid(n, u) != Empty) MarkCrumble(c, n, c.Y);
-  const int k = g.Grid(n, u);
-  switch (k) {
-    case Empty:
-      c.X = To16(n, "X");
-      c.Y = To16(u, "Y");
-      return;
-    case ElectricWall:
-      StartShock(g, index);
-      return;
-    case ExitDoor:
-      c.Out = 0;
-      GoInDoor(g, index);
-      return;
-    case TeleportSquare:
-      c.Teleporting = 1;
-      c.X = To16(n, "X");
-      c.Y = To16(u, "Y");
-      Teleport(g, index);
-      return;
-    default:
-      if (IsCrumble(k)) MarkCrumble(c, n, u);
-      if (index == g.Leader && g.ClimbArmed) {
-        g.Climbing = True;
-        ClimbUp(g);
-      } else {
-        c.Dir = To16(-c.Dir, "Dir");
-      }
+  if (StepInto(g, index, n, u)) return;
+  // A wall at least two squares high.
+  if (IsCrumble(g.Grid(n, u))) MarkCrumble(c, n, u);
+  if (index == g.Leader && g.ClimbArmed) {
+    g.Climbing = True;
+    ClimbUp(g);
+  } else {
+    c.Dir = To16(-c.Dir, "Dir");
   }
 }
 
