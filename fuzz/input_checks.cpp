@@ -1,8 +1,10 @@
 // The checks shared by the fuzz targets and the regression tests.
 #include "input_checks.h"
 
+#include <array>
 #include <map>
 #include <optional>
+#include <string>
 
 #include "core/cycle.h"
 #include "core/fault.h"
