@@ -17,7 +17,8 @@ qb::LevelData BusyLevel() {
     rows[y - 1][60] = '#';  // a step
   }
   qb::LevelData d = qb::test::MakeLevel(rows, 5, 6, 100, 100, 1, 30000);
-  for (int j = 0; j < 6; ++j) d.Slots[j] = {-1, 0, 0, 5 + 18 * j, static_cast<int16_t>(6 + 8 * j), 0, 0, 0, 0};
+  for (int j = 0; j < 6; ++j)
+    d.Slots[j] = {-1, 0, 0, 5 + 18 * j, static_cast<int16_t>(6 + 8 * j), 0, 0, 0, 0};
   return d;
 }
 
@@ -33,8 +34,8 @@ void BM_CycleHundredWalking(benchmark::State& state) {
     t.g.pic.Picture1.TakeDirty([](int, int) {});
     if (t.g.TimeLeft < 100) t.g.TimeLeft = 30000;
   }
-  state.counters["cycles/s"] = benchmark::Counter(static_cast<double>(state.iterations()),
-                                                  benchmark::Counter::kIsRate);
+  state.counters["cycles/s"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_CycleHundredWalking);
 

@@ -35,9 +35,8 @@ std::vector<int16_t> UsedArea(const Game& g) {
 }
 
 void TraceLine(std::ostream& out, long t, const Game& g, std::vector<int16_t>& previous) {
-  out << "{\"t\":" << t << ",\"released\":" << g.CharactersReleased
-      << ",\"saved\":" << g.SavedCount << ",\"time\":" << g.TimeLeft << ",\"leader\":" << g.Leader
-      << ",\"stock\":[";
+  out << "{\"t\":" << t << ",\"released\":" << g.CharactersReleased << ",\"saved\":" << g.SavedCount
+      << ",\"time\":" << g.TimeLeft << ",\"leader\":" << g.Leader << ",\"stock\":[";
   for (int i = 0; i < kToolCount; ++i) out << (i ? "," : "") << g.ToolStock(i);
   out << "],\"tools\":[" << g.ClimbArmed << "," << g.Climbing << "," << g.Blocking << ","
       << g.Building << "," << g.Bombing << "," << g.JumpStage << "," << g.Lasering << ","
@@ -120,7 +119,8 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
         break;
       }
       const std::string& done = g.ReplayLog(tick);
-      if (!done.empty() && done != "E") outcome.recording += std::to_string(tick) + " " + done + "\n";
+      if (!done.empty() && done != "E")
+        outcome.recording += std::to_string(tick) + " " + done + "\n";
     }
   } catch (const ProgramFault& fault) {
     err << "program fault in cycle " << cycles << ": " << fault.what() << "\n";

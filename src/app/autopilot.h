@@ -47,10 +47,10 @@ class Autopilot : public QObject {
   std::size_t nextKey_ = 0;
   bool finishPending_ = false;
   bool fastDone_ = false;
-  long fastFrom_ = -1;          // cycles run when fast play began
-  long paintedFrom_ = 0;        // squares painted by then
-  long fastCycles_ = -1;        // cycles run in the first 10 s of fast play
-  long fastPainted_ = 0;        // squares painted in them
+  long fastFrom_ = -1;    // cycles run when fast play began
+  long paintedFrom_ = 0;  // squares painted by then
+  long fastCycles_ = -1;  // cycles run in the first 10 s of fast play
+  long fastPainted_ = 0;  // squares painted in them
 };
 
 }  // namespace qb::app

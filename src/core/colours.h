@@ -20,14 +20,14 @@ inline Colour QBColor(int n) {
 
 inline constexpr Colour kWhite = 0xFFFFFF;
 inline constexpr Colour kBlack = 0x000000;
-inline constexpr Colour kYellow = 0x00FFFF;       // QBColor(14)
-inline constexpr Colour kLightGreen = 0x00FF00;   // QBColor(10)
-inline constexpr Colour kLightGrey = 0xC0C0C0;    // QBColor(7)
+inline constexpr Colour kYellow = 0x00FFFF;          // QBColor(14)
+inline constexpr Colour kLightGreen = 0x00FF00;      // QBColor(10)
+inline constexpr Colour kLightGrey = 0xC0C0C0;       // QBColor(7)
 inline constexpr Colour kSystemWindow = 0x80000005;  // the system's window-background colour
-inline constexpr Colour kToolInUse = 0xFF8080;    // light blue
-inline constexpr Colour kToolsLost = 0xC0C0FF;    // light red: the leader is lost
-inline constexpr Colour kToolsHome = 0xC0FFC0;    // light green: the leader is saved
-inline constexpr Colour kWinMark = 0x80FFFF;      // light yellow
+inline constexpr Colour kToolInUse = 0xFF8080;       // light blue
+inline constexpr Colour kToolsLost = 0xC0C0FF;       // light red: the leader is lost
+inline constexpr Colour kToolsHome = 0xC0FFC0;       // light green: the leader is saved
+inline constexpr Colour kWinMark = 0x80FFFF;         // light yellow
 inline constexpr Colour kPressed = 0xC0E0FF;
 inline constexpr Colour kPauseOn = 0x0080FF;      // orange
 inline constexpr Colour kFastOn = 0x0000FF;       // red

@@ -12,9 +12,13 @@ Controls::Controls() {
   Label6Caption(1) = "of";
   Label6Caption(2) = "of 60";
   Label3Back.Fill(kSystemWindow);
-  const char* captions[7] = {
-      "&Pause                    P", "&Fast                       Enter", "-", kRestartCaption,
-      "&End Level", "-", "&Next Track"};
+  const char* captions[7] = {"&Pause                    P",
+                             "&Fast                       Enter",
+                             "-",
+                             kRestartCaption,
+                             "&End Level",
+                             "-",
+                             "&Next Track"};
   for (int i = 0; i < 7; ++i) LevelCmdCaption(i) = captions[i];
 }
 

@@ -86,7 +86,9 @@ void DrawBlock(Game& g, int x, int y, Colour colour) {
   g.pic.Picture1.Fill(x - g.ViewX, y - g.ViewY, colour);
 }
 
-void DrawChar(Game& g, int index) { DrawCharIn(g, index, CharColour(g, index)); }
+void DrawChar(Game& g, int index) {
+  DrawCharIn(g, index, CharColour(g, index));
+}
 
 void DrawCharIn(Game& g, int index, Colour colour) {
   const CharRecord& c = g.Chars(index);

@@ -3,7 +3,9 @@
 
 namespace qb {
 
-Game::Game(Host& h) : host(&h) { InitTables(*this); }
+Game::Game(Host& h) : host(&h) {
+  InitTables(*this);
+}
 
 void PlayEffect(Game& g, int number, const char* type) {
   if (g.Sound()) g.host->PlaySound(type, number);
@@ -18,8 +20,9 @@ void InitColours(Game& g) {
 }
 
 void InitTracks(Game& g) {
-  static const char* const kNames[10] = {"planet9", "Rockem3d", "yuffies", "pktsym", "POP",
-                                         "danceoftheheavens", "PIANO", "7[1]", "smooth", "dbyd8"};
+  static const char* const kNames[10] = {
+      "planet9",           "Rockem3d", "yuffies", "pktsym", "POP",
+      "danceoftheheavens", "PIANO",    "7[1]",    "smooth", "dbyd8"};
   for (int i = 0; i < 10; ++i) g.TrackNames(i) = kNames[i];
 }
 

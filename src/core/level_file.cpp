@@ -10,8 +10,16 @@
 namespace qb {
 namespace {
 
-enum Tag : int16_t { TEmpty = 0, TNull = 1, TInteger = 2, TLong = 3, TSingle = 4, TDouble = 5,
-                     TString = 8, TBoolean = 11 };
+enum Tag : int16_t {
+  TEmpty = 0,
+  TNull = 1,
+  TInteger = 2,
+  TLong = 3,
+  TSingle = 4,
+  TDouble = 5,
+  TString = 8,
+  TBoolean = 11
+};
 
 class Reader {
  public:

@@ -38,7 +38,9 @@ struct LevelData {
   int16_t ReleaseInterval = 0;
   std::vector<int16_t> Squares;  // GridWidth * GridHeight kinds, (x, y) at x + GridWidth * y
 
-  int16_t Square(int x, int y) const { return Squares.at(static_cast<std::size_t>(x + GridWidth * y)); }
+  int16_t Square(int x, int y) const {
+    return Squares.at(static_cast<std::size_t>(x + GridWidth * y));
+  }
   int16_t& Square(int x, int y) { return Squares.at(static_cast<std::size_t>(x + GridWidth * y)); }
   bool operator==(const LevelData&) const = default;
 };

@@ -101,8 +101,8 @@ void SetUpLevel(Game& g) {
   g.SettingUp = True;
   g.SlowToggle = False;
   ResetLevelState(g);
-  g.ui.Caption = "Quorbit 2 - " + g.SkillName(g.CurrentSkill) + ", Level " +
-                 std::to_string(g.LevelNumber);
+  g.ui.Caption =
+      "Quorbit 2 - " + g.SkillName(g.CurrentSkill) + ", Level " + std::to_string(g.LevelNumber);
 
   g.ui.MapWidthTwips = g.GridWidth / 120.0 * 3135;
   g.ui.MapHeightTwips = g.GridHeight / 80.0 * 1935;

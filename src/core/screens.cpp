@@ -5,10 +5,14 @@
 
 namespace qb {
 
-std::string CharWord(long n) { return n == 1 ? "character" : "characters"; }
+std::string CharWord(long n) {
+  return n == 1 ? "character" : "characters";
+}
 
 namespace {
-std::string Count(long n) { return std::to_string(n) + " " + CharWord(n); }
+std::string Count(long n) {
+  return std::to_string(n) + " " + CharWord(n);
+}
 }  // namespace
 
 ScreenTexts TitleTexts(const Game& g) {
@@ -21,12 +25,18 @@ ScreenTexts TitleTexts(const Game& g) {
 ScreenTexts WinLevelTexts(const Game& g) {
   const long s = g.SavedCount, r = g.CharactersNeeded;
   std::string comment;
-  if (s == g.CharactersTotal) comment = "GREAT! You saved EVERY SINGLE character!";
-  else if (s == r) comment = "EXACTLY the right number of characters! WONDERFUL!";
-  else if (s < r + 7) comment = "You saved a few more than was needed! Good for you!";
-  else if (s < r + 16) comment = "You saved a lot more than was needed! Masterful effort!";
-  else if (s < r + 30) comment = "You saved a great deal of characters! Excellent job!";
-  else comment = "Excellent! You saved an ENORMOUS amount of characters!";
+  if (s == g.CharactersTotal)
+    comment = "GREAT! You saved EVERY SINGLE character!";
+  else if (s == r)
+    comment = "EXACTLY the right number of characters! WONDERFUL!";
+  else if (s < r + 7)
+    comment = "You saved a few more than was needed! Good for you!";
+  else if (s < r + 16)
+    comment = "You saved a lot more than was needed! Masterful effort!";
+  else if (s < r + 30)
+    comment = "You saved a great deal of characters! Excellent job!";
+  else
+    comment = "Excellent! You saved an ENORMOUS amount of characters!";
   std::string tier;
   if (g.LevelNumber == 20) {
     static const char* const kTierDone[4] = {
@@ -48,14 +58,22 @@ ScreenTexts LooseLevelTexts(const Game& g) {
       s < 1 ? "But you saved 0 characters!" : "But you only saved " + Count(s) + "!";
   const double p = static_cast<double>(s) / static_cast<double>(r) * 100.0;
   std::string comment;
-  if (p == 0) comment = "You didn't save anyone! Shame on you!";
-  else if (p < 1) comment = "Try harder next time....";
-  else if (p < 20) comment = "Perhaps you need to take a different approach!";
-  else if (p < 30) comment = "I'm sure you can do better!";
-  else if (p <= 55) comment = "You might be on the right track...try again";
-  else if (p < 80) comment = "You're getting there...try again...";
-  else if (p < 90) comment = "Just a few more saves and you will win!";
-  else comment = "You were so close! Try again!";
+  if (p == 0)
+    comment = "You didn't save anyone! Shame on you!";
+  else if (p < 1)
+    comment = "Try harder next time....";
+  else if (p < 20)
+    comment = "Perhaps you need to take a different approach!";
+  else if (p < 30)
+    comment = "I'm sure you can do better!";
+  else if (p <= 55)
+    comment = "You might be on the right track...try again";
+  else if (p < 80)
+    comment = "You're getting there...try again...";
+  else if (p < 90)
+    comment = "Just a few more saves and you will win!";
+  else
+    comment = "You were so close! Try again!";
   return {"Oh No!", {"You needed to save " + Count(r), saved, comment}};
 }
 
@@ -87,6 +105,8 @@ void ShowLooseLevel(Game& g) {
   g.host->ShowScreen(Screen::LooseLevel, texts);
 }
 
-void ShowWonGame(Game& g) { g.host->ShowScreen(Screen::WonGame, WonGameTexts()); }
+void ShowWonGame(Game& g) {
+  g.host->ShowScreen(Screen::WonGame, WonGameTexts());
+}
 
 }  // namespace qb

@@ -11,7 +11,7 @@ namespace qb {
 std::string CharWord(long n);
 
 ScreenTexts TitleTexts(const Game& g);
-ScreenTexts WinLevelTexts(const Game& g);   // five lines; the last is the tier message or ""
+ScreenTexts WinLevelTexts(const Game& g);  // five lines; the last is the tier message or ""
 ScreenTexts LooseLevelTexts(const Game& g);
 ScreenTexts WonGameTexts();
 

@@ -14,9 +14,12 @@ struct OptionSetting {
   bool fallback;
 };
 constexpr OptionSetting kOptions[] = {
-    {OptMusic, "Music", true},          {OptSound, "Sound", true},
-    {OptFastScrolling, "Scrolling", false}, {OptSmartScrolling, "SmartScrolling", false},
-    {OptReplay, "Replay", true},        {OptShowChange, "Change", true},
+    {OptMusic, "Music", true},
+    {OptSound, "Sound", true},
+    {OptFastScrolling, "Scrolling", false},
+    {OptSmartScrolling, "SmartScrolling", false},
+    {OptReplay, "Replay", true},
+    {OptShowChange, "Change", true},
 };
 
 std::string Trim(const std::string& s) {
@@ -63,8 +66,8 @@ std::vector<std::string> LoadSettings(Game& g, SettingsStore& store) {
       if (const auto n = ToNumber(*stored)) {
         level = std::clamp(*n, 1L, 20L);
         if (level != *n)
-          notes.push_back(Where("HighestLevel", key) + " = " + *stored + " is outside 1 to 20; using " +
-                          std::to_string(level));
+          notes.push_back(Where("HighestLevel", key) + " = " + *stored +
+                          " is outside 1 to 20; using " + std::to_string(level));
       } else {
         notes.push_back(Where("HighestLevel", key) + " = \"" + *stored +
                         "\" is not a number; using 1");
@@ -75,18 +78,21 @@ std::vector<std::string> LoadSettings(Game& g, SettingsStore& store) {
   for (const OptionSetting& o : kOptions) {
     bool value = o.fallback;
     if (const auto stored = store.Get("Options", o.key)) {
-      if (const auto b = ToBool(*stored)) value = *b;
+      if (const auto b = ToBool(*stored))
+        value = *b;
       else
-        notes.push_back(Where("Options", o.key) + " = \"" + *stored + "\" is not True or False; using " +
-                        (o.fallback ? "True" : "False"));
+        notes.push_back(Where("Options", o.key) + " = \"" + *stored +
+                        "\" is not True or False; using " + (o.fallback ? "True" : "False"));
     }
     g.ui.OptionsChecked(o.option) = value;
   }
   g.CurrentSkill = 0;
   if (const auto stored = store.Get("CurrentSkill", "Skill")) {
     const auto n = ToNumber(*stored);
-    if (n && *n >= 0 && *n <= 3) g.CurrentSkill = static_cast<int32_t>(*n);
-    else if (n && *n == 4) g.CurrentSkill = 4;  // the whole game was won; the chooser shows Expert
+    if (n && *n >= 0 && *n <= 3)
+      g.CurrentSkill = static_cast<int32_t>(*n);
+    else if (n && *n == 4)
+      g.CurrentSkill = 4;  // the whole game was won; the chooser shows Expert
     else if (!Trim(*stored).empty())
       notes.push_back(Where("CurrentSkill", "Skill") + " = \"" + *stored +
                       "\" is not a tier 0 to 3; using 0");

@@ -27,7 +27,9 @@ enum Kind : int16_t {
 };
 inline constexpr int kKindCount = 18;
 
-inline bool IsCrumble(int k) { return k == CrumbleWall || k == CrumbleWall2; }
+inline bool IsCrumble(int k) {
+  return k == CrumbleWall || k == CrumbleWall2;
+}
 
 enum Tool : int16_t {
   ToolClimb = 0,

@@ -49,8 +49,10 @@ constexpr Jaw kJaws[6][4] = {
 
 void PaintJaws(Game& g, int x, int y, int stage, bool paint) {
   for (const Jaw& j : kJaws[stage]) {
-    if (paint) PaintIfInGrid(g, x + j.dx, y + j.dy, g.SquareColour(Marker12));
-    else RepaintSquare(g, x + j.dx, y + j.dy);
+    if (paint)
+      PaintIfInGrid(g, x + j.dx, y + j.dy, g.SquareColour(Marker12));
+    else
+      RepaintSquare(g, x + j.dx, y + j.dy);
   }
 }
 }  // namespace

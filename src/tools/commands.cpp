@@ -44,10 +44,14 @@ void ScrollBy(Game& g, int dx, int dy) {
 
 void Form_KeyDown(Game& g, int keyCode) {
   if (keyCode < 13 || keyCode > 80) return;
-  if (keyCode == KeyEnter) g.ui.Label3Back(1) = kPressed;
-  else if (keyCode == KeyEscape) g.ui.Label7Back = kPressed;
-  else if (keyCode == KeyP) g.ui.Label3Back(0) = kPressed;
-  else if (keyCode >= Key1 && keyCode <= Key8) ToolButtonDown(g, keyCode - Key1);
+  if (keyCode == KeyEnter)
+    g.ui.Label3Back(1) = kPressed;
+  else if (keyCode == KeyEscape)
+    g.ui.Label7Back = kPressed;
+  else if (keyCode == KeyP)
+    g.ui.Label3Back(0) = kPressed;
+  else if (keyCode >= Key1 && keyCode <= Key8)
+    ToolButtonDown(g, keyCode - Key1);
 }
 
 void Form_KeyUp(Game& g, int keyCode) {

@@ -45,8 +45,10 @@ void Blast(Game& g, int cx, int cy) {
       c.Out = 0;
   }
   ForBlast(g, cx, cy, [&](int x, int y) {
-    if (NotMetal(g, x, y)) DrawSquare(g, x, y, Empty);
-    else DrawBlock(g, x, y, g.SquareColour(g.Grid(x, y)));
+    if (NotMetal(g, x, y))
+      DrawSquare(g, x, y, Empty);
+    else
+      DrawBlock(g, x, y, g.SquareColour(g.Grid(x, y)));
   });
 }
 

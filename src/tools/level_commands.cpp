@@ -93,8 +93,10 @@ void OptionsCmd_Click(Game& g, int index) {
   if (!g.ui.Frame1Visible) return;
   switch (index) {
     case OptMusic:
-      if (g.ui.Option(OptMusic)) PlayTrack(g, g.CurrentTrack);
-      else StopMusic(g);
+      if (g.ui.Option(OptMusic))
+        PlayTrack(g, g.CurrentTrack);
+      else
+        StopMusic(g);
       break;
     case OptFastScrolling:
       g.pic.Picture1.Clear();

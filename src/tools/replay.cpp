@@ -58,7 +58,8 @@ ReplayFile ParseReplay(const std::string& text) {
     while (i < line.size() && !blank(line[i])) ++i;
     const std::string letters = line.substr(lettersAt, i - lettersAt);
     while (i < line.size() && blank(line[i])) ++i;
-    if (i != line.size()) return fail("unexpected text \"" + line.substr(i) + "\" after the letters");
+    if (i != line.size())
+      return fail("unexpected text \"" + line.substr(i) + "\" after the letters");
     for (char ch : letters)
       if (std::string("CKBDJRXLE").find(ch) == std::string::npos)
         return fail(std::string("'") + ch + "' is not a replay letter (C K B D J R X L E)");

@@ -1,7 +1,8 @@
 // The game cycle: releases, slow motion, the replay tick, a level ending inside a cycle.
+#include "core/cycle.h"
+
 #include <gtest/gtest.h>
 
-#include "core/cycle.h"
 #include "support/level_builder.h"
 #include "tools/use_tool.h"
 

@@ -1,7 +1,8 @@
 // The drawing model: squares, characters, flashes, the overview map and its frame.
+#include "core/drawing.h"
+
 #include <gtest/gtest.h>
 
-#include "core/drawing.h"
 #include "support/level_builder.h"
 
 namespace qb {
@@ -11,7 +12,8 @@ using test::MakeLevel;
 using test::TestGame;
 
 std::vector<std::string> Room(int w, int h) {
-  std::vector<std::string> rows(static_cast<std::size_t>(h), std::string(static_cast<std::size_t>(w), '.'));
+  std::vector<std::string> rows(static_cast<std::size_t>(h),
+                                std::string(static_cast<std::size_t>(w), '.'));
   rows.back() = std::string(static_cast<std::size_t>(w), 'M');
   return rows;
 }
@@ -28,7 +30,8 @@ TEST(Drawing, ACharacterOnASquareThatBecomesEmptyStaysVisible) {
 TEST(Drawing, SquaresOutsideTheGridChangeNothing) {
   TestGame t(MakeLevel(Room(40, 40), 3, 38, 1, 0, 1));
   const Game before = t.g;
-  for (auto [x, y] : {std::pair{120, 0}, {0, 80}, {-1, 5}, {5, -1}}) DrawSquare(t.g, x, y, SoftWall);
+  for (auto [x, y] : {std::pair{120, 0}, {0, 80}, {-1, 5}, {5, -1}})
+    DrawSquare(t.g, x, y, SoftWall);
   EXPECT_TRUE(t.g.Grid == before.Grid);
   EXPECT_THROW(DrawSquare(t.g, 5, 5, 18), RangeFault);
 }

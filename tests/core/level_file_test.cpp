@@ -1,7 +1,8 @@
 // The level file reader and writer.
+#include "core/level_file.h"
+
 #include <gtest/gtest.h>
 
-#include "core/level_file.h"
 #include "support/level_builder.h"
 
 namespace qb {

@@ -23,9 +23,9 @@ struct SimRun {
 
 class SimProcess : public ::testing::Test {
  protected:
-  fs::path dir = fs::temp_directory_path() /
-                 ("quorbit-sim-test-" + std::to_string(::getpid()) + "-" +
-                  ::testing::UnitTest::GetInstance()->current_test_info()->name());
+  fs::path dir =
+      fs::temp_directory_path() / ("quorbit-sim-test-" + std::to_string(::getpid()) + "-" +
+                                   ::testing::UnitTest::GetInstance()->current_test_info()->name());
   void SetUp() override { fs::create_directories(dir); }
   void TearDown() override { fs::remove_all(dir); }
 
@@ -54,10 +54,10 @@ class SimProcess : public ::testing::Test {
 
 // Ten characters walk over a step to a door; two fall into a pit of water on the way back.
 LevelData Walkway() {
-  LevelData d = test::MakeLevel({"....................", "....................",
-                                 "..........#........D", "#####~##############",
-                                 "MMMMMMMMMMMMMMMMMMMM"},
-                                0, 2, 10, 6, 4, 400);
+  LevelData d =
+      test::MakeLevel({"....................", "....................", "..........#........D",
+                       "#####~##############", "MMMMMMMMMMMMMMMMMMMM"},
+                      0, 2, 10, 6, 4, 400);
   d.ToolStock = {1, 1, 2, 2, 1, 1, 1, 1};
   return d;
 }
@@ -74,7 +74,7 @@ TEST_F(SimProcess, AMissingOrUnsupportedLevelExitsTwoWithAMessage) {
   EXPECT_NE(unsupported.out.find("has kind 40"), std::string::npos) << unsupported.out;
 
   SimRun badReplay = Sim(WriteLevelFile("w.lvl", Walkway()).string() + " --replay " +
-                      Write("r.replay", "5 B\nfive J\n").string());
+                         Write("r.replay", "5 B\nfive J\n").string());
   EXPECT_EQ(badReplay.status, 2);
   EXPECT_NE(badReplay.out.find("line 2"), std::string::npos) << badReplay.out;
 }
@@ -83,14 +83,16 @@ TEST_F(SimProcess, TracesEveryCycleAndEndsWithTheResult) {
   SimRun r = Sim(WriteLevelFile("w.lvl", Walkway()).string() + " --trace");
   ASSERT_EQ(r.status, 0) << r.out;
   ASSERT_GE(r.lines.size(), 2u);
-  EXPECT_EQ(r.lines[0].rfind("{\"t\":0,\"released\":0,\"saved\":0,\"time\":399,\"leader\":0,", 0), 0u)
+  EXPECT_EQ(r.lines[0].rfind("{\"t\":0,\"released\":0,\"saved\":0,\"time\":399,\"leader\":0,", 0),
+            0u)
       << r.lines[0];
   EXPECT_NE(r.lines[3].find("\"chars\":[[0,2,1,-1,0,0,0,0,0,0],[0,2,1,0,0,0,0,0,0,0]"),
             std::string::npos)
       << r.lines[3];
   const std::string& last = r.lines.back();
   EXPECT_EQ(last.rfind("{\"result\":\"", 0), 0u);
-  EXPECT_EQ(r.lines.size() - 1, static_cast<std::size_t>(std::stoi(last.substr(last.find("\"cycles\":") + 9))));
+  EXPECT_EQ(r.lines.size() - 1,
+            static_cast<std::size_t>(std::stoi(last.substr(last.find("\"cycles\":") + 9))));
   EXPECT_NE(last.find("\"needed\":6,\"total\":10}"), std::string::npos) << last;
 }
 
@@ -116,12 +118,12 @@ TEST_F(SimProcess, AFaultPrintsTheTraceSoFarAndExitsThree) {
 TEST_F(SimProcess, EveryToolShowsInTheTraceInTheCycleItIsUsed) {
   // A closed room: the crowd walks back and forth, so every tool finds its leader on the ground.
   const std::string inside = "M" + std::string(38, '.') + "M";
-  LevelData room = test::MakeLevel({inside, inside, inside, inside, inside, std::string(40, '#'),
-                                    std::string(40, 'M')},
-                                   1, 4, 10, 6, 4, 400);
+  LevelData room = test::MakeLevel(
+      {inside, inside, inside, inside, inside, std::string(40, '#'), std::string(40, 'M')}, 1, 4,
+      10, 6, 4, 400);
   room.ToolStock = {1, 1, 1, 1, 1, 1, 1, 1};
   const fs::path level = WriteLevelFile("room.lvl", room);
-  const std::vector<std::pair<int, int>> uses = {{6, ToolSlow},   {9, ToolBlock}, {14, ToolBuild},
+  const std::vector<std::pair<int, int>> uses = {{6, ToolSlow},    {9, ToolBlock}, {14, ToolBuild},
                                                  {18, ToolChange}, {24, ToolJump}, {33, ToolBomb},
                                                  {45, ToolLaser},  {50, ToolClimb}};
   std::string replay = "# every tool once\n";
@@ -141,9 +143,9 @@ TEST_F(SimProcess, EveryToolShowsInTheTraceInTheCycleItIsUsed) {
     EXPECT_EQ(stock(t - 1, tool), 1) << "tool " << tool;
     EXPECT_EQ(stock(t, tool), 0) << "tool " << tool << " in cycle " << t;
   }
-  EXPECT_NE(r.lines[9].find("\"changed\":[["), std::string::npos) << r.lines[9];   // the block
-  EXPECT_NE(r.lines[14].find(",3]]"), std::string::npos) << r.lines[14];            // a built block
-  EXPECT_NE(r.lines[18].find("\"leader\":1"), std::string::npos) << r.lines[18];   // the change
+  EXPECT_NE(r.lines[9].find("\"changed\":[["), std::string::npos) << r.lines[9];  // the block
+  EXPECT_NE(r.lines[14].find(",3]]"), std::string::npos) << r.lines[14];          // a built block
+  EXPECT_NE(r.lines[18].find("\"leader\":1"), std::string::npos) << r.lines[18];  // the change
 }
 
 TEST_F(SimProcess, ReplayingARecordingGivesTheSameTrace) {
@@ -151,7 +153,7 @@ TEST_F(SimProcess, ReplayingARecordingGivesTheSameTrace) {
   const fs::path replay = Write("in.replay", "4 B\n6 K\n8 D\n11 J\n");
   const fs::path recorded = dir / "out.replay";
   SimRun first = Sim(level.string() + " --trace --replay " + replay.string() + " --record " +
-                  recorded.string());
+                     recorded.string());
   ASSERT_EQ(first.status, 0) << first.out;
   SimRun second = Sim(level.string() + " --trace --replay " + recorded.string());
   EXPECT_EQ(first.out, second.out);

@@ -36,8 +36,8 @@ TEST(Crumbling, AWallAheadIsSteppedOntoButOneThatStopsTheCharacterGoes) {
 
 TEST(Electric, TouchingFromTheSideFromAboveOrDiagonallyShocksButNotFromBelow) {
   for (const auto& rows : std::vector<std::vector<std::string>>{
-           {"....", "..Z.", "####"},    // ahead
-           {"..Z.", "..M.", "####"},    // diagonally up ahead, over a wall
+           {"....", "..Z.", "####"},     // ahead
+           {"..Z.", "..M.", "####"},     // diagonally up ahead, over a wall
            {"....", "....", "#Z##"}}) {  // below
     TestGame t(MakeLevel(rows, 0, 1, 1, 0));
     t.Ticks(3);

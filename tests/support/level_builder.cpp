@@ -37,8 +37,8 @@ LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int to
   d.Squares.assign(static_cast<std::size_t>(d.GridWidth * d.GridHeight), 0);
   for (int y = 0; y < d.GridHeight; ++y)
     for (int x = 0; x < d.GridWidth; ++x)
-      d.Square(x, y) = static_cast<int16_t>(KindOf(rows[static_cast<std::size_t>(y)].at(
-          static_cast<std::size_t>(x))));
+      d.Square(x, y) = static_cast<int16_t>(
+          KindOf(rows[static_cast<std::size_t>(y)].at(static_cast<std::size_t>(x))));
   d.Slots[0].EntranceActive = -1;
   d.Slots[0].EntranceX = ex;
   d.Slots[0].EntranceY = static_cast<int16_t>(ey);
@@ -53,7 +53,8 @@ TestGame::TestGame(const LevelData& level, bool titleCard) {
   g.SkipTitle = titleCard ? False : True;
   g.ReplayLog(0) = "E";
   if (LoadLevel(g, "test.lvl") != LoadResult::Loaded)
-    throw std::runtime_error("test level refused: " + (host.messages.empty() ? std::string("?") : host.messages.back()));
+    throw std::runtime_error("test level refused: " +
+                             (host.messages.empty() ? std::string("?") : host.messages.back()));
 }
 
 void TestGame::Ticks(int n) {

@@ -36,9 +36,9 @@ TEST(LevelTimer, BlinksOnlyInTheWarningPhase) {
   TestGame t(Corridor(40));
   t.Ticks(17);  // time 31
   EXPECT_EQ(t.g.ui.Label5Back, kSystemWindow);
-  t.Ticks(2);   // 30: red
+  t.Ticks(2);  // 30: red
   EXPECT_EQ(t.g.ui.Label5Back, kTimeWarning);
-  t.Ticks(2);   // 29: window colour
+  t.Ticks(2);  // 29: window colour
   EXPECT_EQ(t.g.ui.Label5Back, kSystemWindow);
 }
 

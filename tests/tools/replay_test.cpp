@@ -1,10 +1,11 @@
 // Replays of the previous attempt, replay files, and taking over from a replay.
+#include "tools/replay.h"
+
 #include <gtest/gtest.h>
 
 #include "support/level_builder.h"
 #include "tools/commands.h"
 #include "tools/level_commands.h"
-#include "tools/replay.h"
 #include "tools/use_tool.h"
 
 namespace qb {

@@ -19,8 +19,8 @@ TestGame Play(std::vector<std::string> rows, int y, std::array<int16_t, 8> stock
 }
 
 TEST(Jump, OverAGapOfWaterTwoUpTwoDownFourColumnsOn) {
-  TestGame t = Play({"................", "................", "................",
-                     "#####~~~########", "MMMMMMMMMMMMMMMM"},
+  TestGame t = Play({"................", "................", "................", "#####~~~########",
+                     "MMMMMMMMMMMMMMMM"},
                     2, {0, 0, 0, 0, 1, 0, 0, 0}, 1);
   t.Ticks(5);  // at x=4, the edge
   ASSERT_EQ(t.C(0).X, 4);
@@ -40,9 +40,9 @@ TEST(Jump, OverAGapOfWaterTwoUpTwoDownFourColumnsOn) {
 }
 
 TEST(Jump, AgainstAWallTwoHighItIsSpentAndTheLeaderStays) {
-  TestGame t = Play({"................", "...M............", "...M............",
-                     "################"},
-                    2, {0, 0, 0, 0, 2, 0, 0, 0}, 1);
+  TestGame t =
+      Play({"................", "...M............", "...M............", "################"}, 2,
+           {0, 0, 0, 0, 2, 0, 0, 0}, 1);
   t.Ticks(3);
   UseTool(t.g, ToolJump);
   EXPECT_EQ(t.C(0).X, 2);
@@ -51,8 +51,8 @@ TEST(Jump, AgainstAWallTwoHighItIsSpentAndTheLeaderStays) {
 }
 
 TEST(Jump, WithSlowRunningTheArcIsThreeUpThreeDown) {
-  TestGame t = Play({"................", "................", "................",
-                     "................", "################"},
+  TestGame t = Play({"................", "................", "................", "................",
+                     "################"},
                     3, {0, 0, 0, 0, 1, 1, 0, 0}, 1);
   t.Ticks(2);
   UseTool(t.g, ToolSlow);
@@ -63,8 +63,8 @@ TEST(Jump, WithSlowRunningTheArcIsThreeUpThreeDown) {
 }
 
 TEST(Climb, UpAThreeHighWallAndOverTheTop) {
-  TestGame t = Play({"............", "............", "......M.....", "......M.....",
-                     "......M.....", "MMMMMMMMMMMM"},
+  TestGame t = Play({"............", "............", "......M.....", "......M.....", "......M.....",
+                     "MMMMMMMMMMMM"},
                     4, {1, 0, 0, 0, 0, 0, 0, 0}, 1);
   t.Ticks(1);
   UseTool(t.g, ToolClimb);
@@ -85,9 +85,9 @@ TEST(Climb, UpAThreeHighWallAndOverTheTop) {
 }
 
 TEST(Climb, ACeilingMakesTheLeaderGiveUpFacingBack) {
-  TestGame t = Play({"............", ".....MM.....", "......M.....", "......M.....",
-                     "MMMMMMMMMMMM"},
-                    3, {1, 0, 0, 0, 0, 0, 0, 0}, 1);
+  TestGame t =
+      Play({"............", ".....MM.....", "......M.....", "......M.....", "MMMMMMMMMMMM"}, 3,
+           {1, 0, 0, 0, 0, 0, 0, 0}, 1);
   t.Ticks(1);
   UseTool(t.g, ToolClimb);
   t.Ticks(7);
@@ -118,9 +118,9 @@ TEST(Build, AStaircaseOverAGapThatTheCrowdFollows) {
 }
 
 TEST(Block, RaisesAWallTwoHighThatTurnsTheCrowd) {
-  TestGame t = Play({"................", "................", "................",
-                     "################"},
-                    2, {0, 1, 0, 0, 0, 0, 0, 0}, 3, 3);
+  TestGame t =
+      Play({"................", "................", "................", "################"}, 2,
+           {0, 1, 0, 0, 0, 0, 0, 0}, 3, 3);
   t.Ticks(10);  // leader at x=7
   UseTool(t.g, ToolBlock);
   EXPECT_EQ(t.g.Grid(t.C(0).X + 1, 2), BlockSquare);
@@ -133,9 +133,8 @@ TEST(Block, RaisesAWallTwoHighThatTurnsTheCrowd) {
 }
 
 TEST(Bomb, BlowsAHoleThroughASoftFloorButNotMetalAndSparesTheLeader) {
-  TestGame t = Play({"................", "................", "................",
-                     "####MMMM########", "################", "................",
-                     "MMMMMMMMMMMMMMMM"},
+  TestGame t = Play({"................", "................", "................", "####MMMM########",
+                     "################", "................", "MMMMMMMMMMMMMMMM"},
                     2, {0, 0, 0, 0, 0, 0, 1, 0}, 2, 4);
   t.Ticks(13);  // the leader at x=9, the second character at x=5
   UseTool(t.g, ToolBomb);
@@ -152,9 +151,9 @@ TEST(Bomb, BlowsAHoleThroughASoftFloorButNotMetalAndSparesTheLeader) {
 }
 
 TEST(Laser, StopsAtAMetalWallAndExplodesThereBreakingOnlySoftSquares) {
-  TestGame t = Play({"................", ".........#M#....", ".....#..##M.....",
-                     "################"},
-                    2, {0, 0, 0, 0, 0, 0, 0, 1}, 1);
+  TestGame t =
+      Play({"................", ".........#M#....", ".....#..##M.....", "################"}, 2,
+           {0, 0, 0, 0, 0, 0, 0, 1}, 1);
   t.Ticks(3);  // leader at x=2
   UseTool(t.g, ToolLaser);
   EXPECT_EQ(t.g.Lasering, 2);
@@ -174,8 +173,8 @@ TEST(Laser, StopsAtAMetalWallAndExplodesThereBreakingOnlySoftSquares) {
 }
 
 TEST(Laser, ABeamThatRunsOffTheLevelExplodesNowhere) {
-  TestGame t = Play({"........", "........", "........", "########"}, 2,
-                    {0, 0, 0, 0, 0, 0, 0, 1}, 1);
+  TestGame t =
+      Play({"........", "........", "........", "########"}, 2, {0, 0, 0, 0, 0, 0, 0, 1}, 1);
   t.Ticks(3);  // leader at x=2, five squares from the right edge
   UseTool(t.g, ToolLaser);
   t.Ticks(6);

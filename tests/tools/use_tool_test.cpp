@@ -1,9 +1,10 @@
 // Tool use: what is refused, what is spent, what is recorded.
+#include "tools/use_tool.h"
+
 #include <gtest/gtest.h>
 
 #include "support/level_builder.h"
 #include "tools/level_commands.h"
-#include "tools/use_tool.h"
 
 namespace qb {
 namespace {
@@ -48,8 +49,8 @@ TEST(UseTool, SpendingShowsTheCountOrNothingAndRecordsTheLetter) {
 }
 
 TEST(UseTool, InTheAirOnlyTheBombIsAccepted) {
-  LevelData d = MakeLevel({"..........", "..........", "..........", "..........", "#########."},
-                          1, 0, 2, 0, 1, 900);
+  LevelData d = MakeLevel({"..........", "..........", "..........", "..........", "#########."}, 1,
+                          0, 2, 0, 1, 900);
   d.ToolStock = {0, 1, 1, 0, 1, 0, 1, 1};
   TestGame t(d);
   t.Ticks(2);  // the leader is falling
