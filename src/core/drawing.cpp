@@ -120,6 +120,10 @@ void EraseChar(Game& g, int index) {
   g.pic.Map.SetDot(c.X, c.Y, background);
 }
 
+void Picture1_Paint(Game& g) {
+  if (g.ui.Option(OptFastScrolling)) DrawView(g);
+}
+
 void RepaintSquare(Game& g, int x, int y) {
   if (!GridTable::Contains(x, y)) return;
   DrawBlock(g, x, y, g.SquareColour(g.Grid(x, y)));

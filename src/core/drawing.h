@@ -13,6 +13,8 @@ void DrawChar(Game& g, int index);
 // DrawChar in a given colour (the shock's flashes show a character in its own colour).
 void DrawCharIn(Game& g, int index, Colour colour);
 void EraseChar(Game& g, int index);
+// The play view's paint event: without its own image (Fast Scrolling) the view is drawn again.
+void Picture1_Paint(Game& g);
 // The colour a character is drawn in now.
 Colour CharColour(const Game& g, int index);
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/level_builder.h"
+#include "tools/level_commands.h"
 
 namespace qb {
 namespace {
@@ -82,6 +83,20 @@ TEST(Drawing, MapSizesFollowTheLevelAndKindsOneAndTwelveAreCleared) {
   EXPECT_EQ(t.g.Grid(6, 6), Empty);
   EXPECT_EQ(t.g.pic.Backing.Dot(5, 5), kWhite);
   EXPECT_EQ(t.g.pic.Backing.Dot(6, 39), t.g.SquareColour(MetalWall));
+}
+
+TEST(Drawing, SwitchingFastScrollingOnClearsTheViewAndItsPaintDrawsItAgain) {
+  TestGame t(MakeLevel(Room(40, 40), 3, 38, 1, 0, 1));
+  t.Ticks(2);
+  const ViewPicture before = t.g.pic.Picture1;
+  OptionsCmd_Click(t.g, OptFastScrolling);
+  EXPECT_EQ(t.g.pic.Picture1.At(5, 39).colour, kWhite);  // the floor is gone from the view
+  Picture1_Paint(t.g);
+  for (int vy = 0; vy < kViewSize; ++vy)
+    for (int vx = 0; vx < kViewSize; ++vx)
+      EXPECT_EQ(t.g.pic.Picture1.At(vx, vy), before.At(vx, vy)) << vx << "," << vy;
+  OptionsCmd_Click(t.g, OptFastScrolling);  // off again: the view keeps its own image
+  EXPECT_EQ(t.g.pic.Picture1.At(5, 39).colour, t.g.SquareColour(MetalWall));
 }
 
 // At quiet moments (no animation, no tool running) the view drawn square by square during play

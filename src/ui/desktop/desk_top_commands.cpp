@@ -26,8 +26,13 @@ void DeskTop::ConnectCommands() {
   for (int i = 0; i < 9; ++i) {
     QAction* a = menus_.optionsCmd[static_cast<std::size_t>(i)];
     if (!a->isSeparator())
-      connect(a, &QAction::triggered, this,
-              [this, i] { Run([this, i] { OptionsCmd_Click(g_, i); }); });
+      connect(a, &QAction::triggered, this, [this, i] {
+        Run([this, i] {
+          OptionsCmd_Click(g_, i);
+          // Switching Fast Scrolling on clears the view; the window shows it again.
+          if (i == OptFastScrolling && g_.ui.Frame1Visible) Picture1_Paint(g_);
+        });
+      });
   }
   const auto help = [this](const Dialog* dialog) {
     Run([this] { PauseForDialog(g_); });
