@@ -131,7 +131,10 @@ void SetUpLevel(Game& g) {
   g.ui.LevelCmdChecked(1) = false;
   g.ui.Label3Back(0) = kWhite;
   g.ui.Label3Back(1) = kWhite;
+  // The "Win!" marking of the previous level goes with its caption.
   g.ui.Label7Caption = "Restart";
+  g.ui.Label7Back = kSystemWindow;
+  g.ui.Label4Back(1) = kSystemWindow;
   g.ui.LevelCmdCaption(3) = kRestartCaption;
   g.ui.Label6Caption(0) = "of " + std::to_string(g.CharactersTotal);
   g.ui.Label6Caption(2) = "of " + std::to_string(g.CharactersNeeded);

@@ -69,6 +69,11 @@ TEST(NextLevel, WinningMovesOnAndRaisesTheHighestLevel) {
   EXPECT_EQ(p.g.HighestLevel(1), 8);
   EXPECT_EQ(p.host.screens.back(), Screen::Title);
   EXPECT_TRUE(p.host.PlayedSound(113));
+  // The next level starts unmarked.
+  EXPECT_EQ(p.g.ui.Label7Caption, "Restart");
+  EXPECT_EQ(p.g.ui.Label7Back, kSystemWindow);
+  EXPECT_EQ(p.g.ui.Label4Back(1), kSystemWindow);
+  EXPECT_EQ(p.g.ui.LevelCmdCaption(3), kRestartCaption);
 }
 
 TEST(NextLevel, LevelTwentyLeadsToTheNextTierWithItsMessage) {
