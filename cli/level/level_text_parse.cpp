@@ -74,6 +74,7 @@ class Parser {
                                   long long lo, long long hi);
   void HeaderLine(int line, std::string_view raw);
   void Title(int line, std::string_view raw, std::size_t valueStart);
+  void NotLatin1(int line, unsigned code);
   void Tools(int line, std::string_view value);
   void Slot(int line, std::string_view kind, std::string_view slotText, std::string_view value);
   void Grid(int gridLine, const std::vector<std::string_view>& rows);
@@ -109,6 +110,13 @@ std::optional<long long> Parser::Number(int line, std::string_view what, std::st
   return v;
 }
 
+void Parser::NotLatin1(int line, unsigned code) {
+  char hex[16];
+  std::snprintf(hex, sizeof hex, "U+%04X", code);
+  Error(line, std::string("the title has the character ") + hex +
+                  ", which is not Latin-1 (levels keep one byte per character)");
+}
+
 // The title is kept as one byte per character, so only Latin-1 characters can be written.
 void Parser::Title(int line, std::string_view raw, std::size_t valueStart) {
   std::string_view value = Trim(raw.substr(valueStart));
@@ -142,6 +150,7 @@ void Parser::Title(int line, std::string_view raw, std::size_t valueStart) {
         code = ((c & 0x1Fu) << 6) | (static_cast<unsigned char>(text[i + 1]) & 0x3Fu);
         len = 2;
         if (code < 0x80) return Error(line, "the title is not valid UTF-8");
+        if (code > 0xFF) return NotLatin1(line, code);  // U+0100 to U+07FF
       } else if ((c & 0xE0) == 0xE0 || (c & 0xF8) == 0xF0) {
         // Three- and four-byte sequences are all above U+00FF.
         std::size_t n = (c & 0xF0) == 0xE0 ? 3 : 4;
@@ -153,10 +162,7 @@ void Parser::Title(int line, std::string_view raw, std::size_t valueStart) {
           if ((cc & 0xC0) != 0x80) return Error(line, "the title is not valid UTF-8");
           code = (code << 6) | (cc & 0x3Fu);
         }
-        char hex[16];
-        std::snprintf(hex, sizeof hex, "U+%04X", code);
-        return Error(line, std::string("the title has the character ") + hex +
-                               ", which is not Latin-1 (levels keep one byte per character)");
+        return NotLatin1(line, code);
       } else {
         return Error(line, "the title is not valid UTF-8");
       }

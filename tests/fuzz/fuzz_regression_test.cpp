@@ -80,5 +80,24 @@ TEST(HostileText, QuotedFileTextHasNoControlBytesAndIsCut) {
   EXPECT_LT(message.size(), 100u) << message;
 }
 
+// Characters of two UTF-8 bytes above U+00FF do not fit a title byte: refused, never cut to one.
+TEST(HostileText, ATitleCharacterAboveLatin1IsRefusedNotCut) {
+  const std::string rest =
+      "tier: 0\nnumber: 1\ncharacters: 1\nneeded: 1\ntime: 9\nrelease: 1\ngrid:\nD\n";
+  const auto polish = leveltext::ParseLevelText(std::string("title: \xC5\x81\xC3\xB3"
+                                                            "d\xC5\xBA\n") +
+                                                rest);
+  ASSERT_FALSE(polish.ok());
+  EXPECT_NE(polish.diagnostics[0].message.find("U+0141"), std::string::npos)
+      << polish.diagnostics[0].message;
+  const auto latin = leveltext::ParseLevelText(std::string("title: G\xC3\xB6"
+                                                           "del\n") +
+                                               rest);
+  ASSERT_TRUE(latin.ok());
+  EXPECT_EQ(latin.data.Title,
+            "G\xF6"
+            "del");
+}
+
 }  // namespace
 }  // namespace qb::fuzz
