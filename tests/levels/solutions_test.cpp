@@ -68,5 +68,25 @@ TEST(ShippedLevels, EverySolutionWinsAndNoLevelAfterTheThirdIsWonWithoutTools) {
   }
 }
 
+// A run recorded while its solution plays, replayed, gives the same trace cycle for cycle.
+TEST(ShippedLevels, ReplayingARecordedRunGivesTheSameTrace) {
+  for (const char* name : {"Beginner16", "Intermediate13", "Advanced19", "Expert20"}) {
+    const fs::path level = fs::path(QUORBIT_LEVELS_DIR) / (std::string(name) + ".lvl");
+    const fs::path solution = fs::path(QUORBIT_SOLUTIONS_DIR) / (std::string(name) + ".replay");
+    if (!fs::exists(level) || !fs::exists(solution)) continue;
+    SimOptions options;
+    options.level = level.string();
+    options.trace = true;
+    options.replay = ReadText(solution);
+    std::ostringstream first, second, err;
+    const SimOutcome recorded = RunSimulation(options, first, err);
+    ASSERT_EQ(recorded.exitStatus, 0) << name << ": " << err.str();
+    options.replay = recorded.recording;
+    ASSERT_EQ(RunSimulation(options, second, err).exitStatus, 0) << name;
+    EXPECT_TRUE(first.str() == second.str()) << name << ": the recording plays differently";
+    EXPECT_NE(first.str().find("\"result\":\"won\""), std::string::npos) << name;
+  }
+}
+
 }  // namespace
 }  // namespace qb
