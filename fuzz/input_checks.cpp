@@ -13,6 +13,7 @@
 #include "core/settings.h"
 #include "fuzz_host.h"
 #include "level_text.h"
+#include "support/level_builder.h"
 #include "tools/commands.h"
 #include "tools/replay.h"
 
@@ -43,29 +44,12 @@ void Play(Game& g, const std::vector<uint8_t>& bytes) {
   }
 }
 
-// A level from rows of characters: '.' empty, '#' soft wall, 'b' bomb wall, 'M' metal, '~' water,
-// 'c' crumble, 'D' exit door; one entrance at (1, 1), every tool in stock.
+// A level from rows of characters (the tests' legend), one entrance at (1, 1), every tool in
+// stock.
 LevelData RowsLevel(const std::vector<std::string>& rows) {
-  LevelData d;
-  d.Title = "Fuzz";
-  d.Number = 1;
-  d.CharactersTotal = 6;
-  d.CharactersNeeded = 2;
-  d.TimeLeft = 300;
-  d.ReleaseInterval = 2;
+  LevelData d = test::MakeLevel(rows, 1, 1, /*total=*/6, /*needed=*/2, /*releaseInterval=*/2,
+                                /*time=*/300);
   d.ToolStock.fill(4);
-  d.GridWidth = static_cast<int16_t>(rows.at(0).size());
-  d.GridHeight = static_cast<int32_t>(rows.size());
-  d.Squares.assign(static_cast<std::size_t>(d.GridWidth * d.GridHeight), Empty);
-  static const std::map<char, int16_t> kinds = {
-      {'.', Empty}, {'#', SoftWall},    {'b', BombWall}, {'M', MetalWall},
-      {'~', Water}, {'c', CrumbleWall}, {'D', ExitDoor}};
-  for (int y = 0; y < d.GridHeight; ++y)
-    for (int x = 0; x < d.GridWidth; ++x)
-      d.Square(x, y) = kinds.at(rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]);
-  d.Slots[0].EntranceActive = -1;
-  d.Slots[0].EntranceX = 1;
-  d.Slots[0].EntranceY = 1;
   return d;
 }
 
