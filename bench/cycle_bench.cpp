@@ -1,7 +1,7 @@
 // One game cycle of a full-size level with a hundred characters out and walking.
 #include <benchmark/benchmark.h>
 
-#include "core/cycle.h"
+#include "play/cycle.h"
 #include "support/level_builder.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "core/game.h"
-#include "core/loader.h"
+#include "level/loader.h"
 #include "support/level_builder.h"
 #include "support/recorder_host.h"
 
@@ -54,7 +54,7 @@ void BM_LoadLevel(benchmark::State& state) {
   g.SkipTitle = qb::True;
   g.ReplayLog(0) = "E";
   for (auto _ : state) {
-    if (qb::LoadLevel(g, "big.lvl") != qb::LoadResult::Loaded) state.SkipWithError("refused");
+    if (!qb::LoadLevel(g, "big.lvl").Loaded()) state.SkipWithError("refused");
     benchmark::DoNotOptimize(g.pic.Map.version);
   }
 }

@@ -13,7 +13,6 @@ std::optional<std::vector<uint8_t>> ReadBytes(const std::string& path) {
 }
 
 std::optional<std::vector<uint8_t>> FileHost::ReadFile(const std::string& path) {
-  if (!filesOpen) return std::nullopt;
   return ReadBytes(path);
 }
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <ostream>
 
-#include "core/cycle.h"
-#include "core/loader.h"
 #include "file_host.h"
-#include "tools/replay.h"
+#include "level/loader.h"
+#include "play/cycle.h"
+#include "play/replay.h"
 
 namespace qb {
 namespace {
@@ -74,8 +74,6 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
     }
   }
   FileHost host;
-  std::string loadMessage;
-  host.onMessage = [&](const std::string& text) { loadMessage = text; };
   auto game = std::make_unique<Game>(host);
   Game& g = *game;
   g.ui.OptionsChecked(OptSound) = false;
@@ -84,8 +82,8 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.ui.OptionsChecked(OptMusic) = false;
   g.SkipTitle = True;
   g.LevelFile = options.level;
-  if (LoadLevel(g, options.level) != LoadResult::Loaded) {
-    err << loadMessage << "\n";
+  if (const LoadOutcome load = LoadLevel(g, options.level); !load.Loaded()) {
+    err << load.message << "\n";
     outcome.exitStatus = 2;
     return outcome;
   }
@@ -93,31 +91,17 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.ReplayPlaying = g.ReplayLog(0) != "E" ? True : False;
   g.ReplayTick = 0;
 
-  // The level ends inside a cycle and the game moves on at once (a restart or the next level):
-  // the state at the moment the result screen opens is what this cycle reports.
-  std::unique_ptr<Game> atEnd;
-  host.onScreen = [&](Screen s) {
-    if (s == Screen::WinLevel || s == Screen::LooseLevel) {
-      if (!atEnd) atEnd = std::make_unique<Game>(g);
-      host.filesOpen = false;  // the run stops at the end of this level
-    }
-  };
-  host.onMessage = [](const std::string&) {};
-
+  // The run stops where the level ends, with the game as the end left it: what would follow
+  // (the result screen, the next load) is the window's business.
   std::vector<int16_t> previous = UsedArea(g);
   long cycles = 0;
+  LevelEnd end = LevelEnd::None;
   try {
-    while (cycles < options.maxCycles) {
+    while (cycles < options.maxCycles && !Ended(end)) {
       const int tick = g.ReplayTick;
-      const std::string planned = g.ReplayLog(tick);
-      Timer1_Timer(g);
+      end = RunCycle(g);
       ++cycles;
-      const Game& shown = atEnd ? *atEnd : g;
-      if (options.trace) TraceLine(out, cycles - 1, shown, previous);
-      if (atEnd) {
-        if (!planned.empty()) outcome.recording += std::to_string(tick) + " " + planned + "\n";
-        break;
-      }
+      if (options.trace) TraceLine(out, cycles - 1, g, previous);
       const std::string& done = g.ReplayLog(tick);
       if (!done.empty() && done != "E")
         outcome.recording += std::to_string(tick) + " " + done + "\n";
@@ -127,10 +111,9 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
     outcome.exitStatus = 3;
     return outcome;
   }
-  const Game& last = atEnd ? *atEnd : g;
-  out << "{\"result\":\"" << ResultName(atEnd ? last.LastEnd : LevelEnd::None)
-      << "\",\"cycles\":" << cycles << ",\"saved\":" << last.SavedCount
-      << ",\"needed\":" << last.CharactersNeeded << ",\"total\":" << last.CharactersTotal << "}\n";
+  out << "{\"result\":\"" << ResultName(end) << "\",\"cycles\":" << cycles
+      << ",\"saved\":" << g.SavedCount << ",\"needed\":" << g.CharactersNeeded
+      << ",\"total\":" << g.CharactersTotal << "}\n";
   return outcome;
 }
 

@@ -9,7 +9,7 @@
 #include <QWidget>
 #include <cstdio>
 
-#include "tools/replay.h"
+#include "play/replay.h"
 
 namespace qb::app {
 namespace {

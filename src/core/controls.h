@@ -18,6 +18,15 @@ enum Option : int {
   OptShowChange = 8,
 };
 
+// Indexes of the Level menu items.
+enum LevelCommand : int {
+  CmdPause = 0,
+  CmdFast = 1,
+  CmdRestart = 3,
+  CmdEndLevel = 4,
+  CmdNextTrack = 6,
+};
+
 inline const char* const kRestartCaption = "&Restart Level        Esc";
 inline const char* const kWinCaption = "&Win Level              Esc";
 

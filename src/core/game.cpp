@@ -7,8 +7,8 @@ Game::Game(Host& h) : host(&h) {
   InitTables(*this);
 }
 
-void PlayEffect(Game& g, int number, const char* type) {
-  if (g.Sound()) g.host->PlaySound(type, number);
+void PlayEffect(Game& g, Sound sound) {
+  if (g.Sound()) g.host->PlaySound(SoundType(sound), static_cast<int>(sound));
 }
 
 void InitColours(Game& g) {

@@ -6,12 +6,18 @@
 #include "core/controls.h"
 #include "core/host.h"
 #include "core/picture.h"
+#include "core/sounds.h"
 #include "core/state.h"
 
 namespace qb {
 
-// How the last level ended; read by the headless runner and the tests.
-enum class LevelEnd { None, Won, Lost, Timeout };
+// How a level ended. A routine that may end the level returns it, None while the level goes
+// on; once it has ended, nothing more of the cycle runs and the caller passes the value up.
+enum class [[nodiscard]] LevelEnd{None, Won, Lost, Timeout};
+
+inline bool Ended(LevelEnd end) {
+  return end != LevelEnd::None;
+}
 
 struct Game : GameState {
   explicit Game(Host& h);
@@ -21,18 +27,14 @@ struct Game : GameState {
   Controls ui;
   Pictures pic;
   Host* host;
-  std::string ProgramFolder = ".";  // the folder that holds Levels/ and Music/
-  LevelEnd LastEnd = LevelEnd::None;
-  int LevelsEnded = 0;  // grows each time a level ends; lets the cycle notice it
+  std::string ProgramFolder = ".";    // the folder that holds Levels/ and Music/
+  LevelEnd LastEnd = LevelEnd::None;  // how the last level ended
 
   bool Sound() const { return ui.Option(OptSound); }
 };
 
-// Thrown when the level ended inside a cycle: no later step of that cycle runs.
-struct LevelOver {};
-
 // Plays an effect if "&Sound" is checked.
-void PlayEffect(Game& g, int number, const char* type = "SOUND");
+void PlayEffect(Game& g, Sound sound);
 
 // Fills the fixed tables: tier names, square colours, crowd colour, track names.
 void InitColours(Game& g);

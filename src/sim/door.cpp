@@ -1,15 +1,10 @@
 // The exit door, the out and saved counts, and the end of a level.
 #include "sim/door.h"
 
-#include "core/controls.h"
-#include "core/screens.h"
-#include "tools/level_commands.h"
-#include "tools/level_timer.h"
-
 namespace qb {
 
-void GoInDoor(Game& g, int index) {
-  PlayEffect(g, 104);
+LevelEnd GoInDoor(Game& g, int index) {
+  PlayEffect(g, Sound::Door);
   if (index == g.Leader) {
     g.Tool5Countdown = 0;
     for (int t = 0; t < kToolCount; ++t) {
@@ -18,10 +13,10 @@ void GoInDoor(Game& g, int index) {
     }
   }
   g.SavedCount = Add16(g.SavedCount, 1, "SavedCount");
-  UpdateInOut(g);
+  return UpdateInOut(g);
 }
 
-void UpdateInOut(Game& g) {
+LevelEnd UpdateInOut(Game& g) {
   int outNow = 0;
   for (int i = 0; i < g.CharactersTotal; ++i)
     if (g.Chars(i).Out) ++outNow;
@@ -33,24 +28,20 @@ void UpdateInOut(Game& g) {
     g.ui.Label7Caption = "Win!";
     g.ui.LevelCmdCaption(3) = kWinCaption;
   }
-  if (g.CharactersReleased != g.CharactersTotal || outNow != 0) return;
+  if (g.CharactersReleased != g.CharactersTotal || outNow != 0) return LevelEnd::None;
 
   g.ui.Timer1Enabled = false;
   g.ui.Timer3Enabled = false;
   g.pic.Picture1.Clear();
   g.pic.Backing.Clear();
-  ++g.LevelsEnded;
   if (g.SavedCount < g.CharactersNeeded) {
-    g.LastEnd = LevelEnd::Lost;
     g.pic.Picture1.Clear();
     g.SkipTitle = False;
-    ShowLooseLevel(g);
-    LevelCmd_Click(g, 3);
+    g.LastEnd = LevelEnd::Lost;
   } else {
     g.LastEnd = LevelEnd::Won;
-    GoToNextLevel(g);
   }
-  throw LevelOver{};
+  return g.LastEnd;
 }
 
 }  // namespace qb

@@ -5,8 +5,9 @@
 
 namespace qb {
 
-void GoInDoor(Game& g, int index);
-// Recounts, redraws the counters and ends the level when it is over (then throws LevelOver).
-void UpdateInOut(Game& g);
+LevelEnd GoInDoor(Game& g, int index);
+// Recounts and redraws the counters. When nobody is left to come out or walk, the level is over:
+// the timers stop, the view is cleared and the end is returned for the caller to pass up.
+LevelEnd UpdateInOut(Game& g);
 
 }  // namespace qb

@@ -1,23 +1,23 @@
 // Dying at the level's edge, invisible traps and electric walls.
 #include "sim/hazards.h"
 
-#include "core/drawing.h"
+#include "draw/drawing.h"
 #include "sim/door.h"
 #include "sim/leader_loss.h"
 
 namespace qb {
 
-void Die(Game& g, int index) {
-  PlayEffect(g, 107);
+LevelEnd Die(Game& g, int index) {
+  PlayEffect(g, Sound::Die);
   if (index == g.Leader) {
     g.JumpStage = 0;
     LoseLeaderTools(g);
   }
   g.Chars(index).Out = 0;
-  UpdateInOut(g);
+  return UpdateInOut(g);
 }
 
-void CheckTraps(Game& g) {
+LevelEnd CheckTraps(Game& g) {
   for (int i = 0; i < g.CharactersTotal; ++i) {
     if (!g.Chars(i).Out) continue;
     for (int j = 0; j < kSlots; ++j) {
@@ -26,10 +26,11 @@ void CheckTraps(Game& g) {
         c.Out = 0;
         g.TrapSprung(j) = True;
         c.Trapped = 1;
-        Trap(g, i);
+        if (const LevelEnd end = Trap(g, i); Ended(end)) return end;
       }
     }
   }
+  return LevelEnd::None;
 }
 
 namespace {
@@ -57,32 +58,32 @@ void PaintJaws(Game& g, int x, int y, int stage, bool paint) {
 }
 }  // namespace
 
-void Trap(Game& g, int index) {
+LevelEnd Trap(Game& g, int index) {
   if (index == g.Leader) LoseLeaderTools(g, /*keepSlow=*/true);
   CharRecord& c = g.Chars(index);
   const int x = c.X, y = c.Y;
   const int stage = c.Trapped;
-  if (stage == 1) PlayEffect(g, 111);
+  if (stage == 1) PlayEffect(g, Sound::Trap);
   if (stage >= 1 && stage <= 5) {
     DrawChar(g, index);
     if (stage > 1) PaintJaws(g, x, y, stage - 1, false);
     PaintJaws(g, x, y, stage, true);
     c.Trapped = To16(stage + 1, "Trapped");
-    return;
+    return LevelEnd::None;
   }
   PaintJaws(g, x, y, 5, false);
   c.Trapped = 0;
   for (int j = 0; j < kSlots; ++j)
     if (g.TrapActive(j) && g.TrapX(j) == c.X && g.TrapY(j) == c.Y) g.TrapSprung(j) = False;
-  UpdateInOut(g);
+  return UpdateInOut(g);
 }
 
-void Shock(Game& g, int index) {
+LevelEnd Shock(Game& g, int index) {
   if (index == g.Leader) LoseLeaderTools(g);
   CharRecord& c = g.Chars(index);
   const int stage = c.Shocked;
   if (stage == 1 || stage == 3) {
-    if (stage == 1) PlayEffect(g, 101);
+    if (stage == 1) PlayEffect(g, Sound::Shock);
     DrawBlock(g, c.X, c.Y, QBColor(14));
     c.Shocked = To16(stage + 1, "Shocked");
   } else if (stage == 2 || stage == 4) {
@@ -91,8 +92,9 @@ void Shock(Game& g, int index) {
   } else {
     EraseChar(g, index);
     c.Shocked = 0;
-    UpdateInOut(g);
+    return UpdateInOut(g);
   }
+  return LevelEnd::None;
 }
 
 }  // namespace qb

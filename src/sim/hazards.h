@@ -5,9 +5,9 @@
 
 namespace qb {
 
-void Die(Game& g, int index);
-void CheckTraps(Game& g);
-void Trap(Game& g, int index);
-void Shock(Game& g, int index);
+LevelEnd Die(Game& g, int index);
+LevelEnd CheckTraps(Game& g);
+LevelEnd Trap(Game& g, int index);
+LevelEnd Shock(Game& g, int index);
 
 }  // namespace qb

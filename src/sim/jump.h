@@ -5,7 +5,13 @@
 
 namespace qb {
 
-// One stage of the jump. Returns Busy: true when the jump moved or held the leader this tick.
-bool Jump(Game& g);
+// What one stage of the jump did: busy when it moved or held the leader this tick (else he
+// walks on in the same tick), and how the level ended if his death ended it.
+struct JumpStep {
+  bool busy = true;
+  LevelEnd end = LevelEnd::None;
+};
+
+JumpStep Jump(Game& g);
 
 }  // namespace qb

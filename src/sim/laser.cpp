@@ -1,10 +1,10 @@
 // The leader's laser: a beam that grows one square a tick and explodes where it is stopped.
 #include "sim/laser.h"
 
-#include "core/drawing.h"
-#include "tools/bash_safe.h"
-#include "tools/explode.h"
-#include "tools/use_tool.h"
+#include "draw/drawing.h"
+#include "sim/bash_safe.h"
+#include "sim/explode.h"
+#include "sim/spend_tool.h"
 
 namespace qb {
 namespace {
@@ -13,20 +13,20 @@ void RepaintBeam(Game& g, int x, int y, int dir, int length) {
   for (int i = 1; i <= length; ++i) RepaintSquare(g, x + dir * i, y);
 }
 
-void StartExplosion(Game& g, int column, int row) {
+LevelEnd StartExplosion(Game& g, int column, int row) {
   g.LaserHitX = To16(column, "LaserHitX");
   g.LaserHitY = To16(row, "LaserHitY");
   g.Bombing = 1;
-  Explode(g);
+  return Explode(g);
 }
 
 }  // namespace
 
-void Lazer(Game& g) {
+LevelEnd Lazer(Game& g) {
   const CharRecord& c = g.Chars(g.Leader);
   const int x = c.X, y = c.Y, dir = c.Dir;
   if (g.Lasering == 1) {
-    PlayEffect(g, 105);
+    PlayEffect(g, Sound::Laser);
     SpendTool(g, ToolLaser, /*prepend=*/true);
   }
   bool runOff = false;
@@ -47,16 +47,15 @@ void Lazer(Game& g) {
     if (BashSafe(g, b, y, "Laser")) continue;  // a breakable square lets the beam through
     RepaintBeam(g, x, y, dir, g.Lasering - 1);
     g.Lasering = 0;
-    StartExplosion(g, b, y);
-    return;
+    return StartExplosion(g, b, y);
   }
   if (g.Lasering == 11) {
     RepaintBeam(g, x, y, dir, 10);
     g.Lasering = 0;
-    if (!runOff) StartExplosion(g, x + 10 * dir, y);
-    return;
+    return runOff ? LevelEnd::None : StartExplosion(g, x + 10 * dir, y);
   }
   g.Lasering = Add16(g.Lasering, 1, "Lasering");
+  return LevelEnd::None;
 }
 
 }  // namespace qb

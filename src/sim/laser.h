@@ -5,6 +5,6 @@
 
 namespace qb {
 
-void Lazer(Game& g);
+LevelEnd Lazer(Game& g);
 
 }  // namespace qb

@@ -1,13 +1,13 @@
 // Water and lava: the splash death, a column of the liquid's colour over three ticks.
 #include "sim/liquids.h"
 
-#include "core/drawing.h"
+#include "draw/drawing.h"
 #include "sim/door.h"
 #include "sim/leader_loss.h"
 
 namespace qb {
 
-void Splash(Game& g, int index) {
+LevelEnd Splash(Game& g, int index) {
   if (index == g.Leader) LoseLeaderTools(g);
   CharRecord& c = g.Chars(index);
   const int x = c.X, y = c.Y;
@@ -16,7 +16,7 @@ void Splash(Game& g, int index) {
   g.SplashColour(index) = l;
   switch (c.Splashed) {
     case 1:
-      PlayEffect(g, liquid == Water ? 112 : 106);
+      PlayEffect(g, liquid == Water ? Sound::Water : Sound::Lava);
       PaintIfInGrid(g, x, y, l);
       PaintIfInGrid(g, x, y - 1, l);
       c.Splashed = 2;
@@ -34,9 +34,9 @@ void Splash(Game& g, int index) {
       RepaintSquare(g, x - 1, y - 3);
       RepaintSquare(g, x + 1, y - 3);
       c.Splashed = 0;
-      UpdateInOut(g);
-      break;
+      return UpdateInOut(g);
   }
+  return LevelEnd::None;
 }
 
 }  // namespace qb

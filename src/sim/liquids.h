@@ -5,6 +5,6 @@
 
 namespace qb {
 
-void Splash(Game& g, int index);
+LevelEnd Splash(Game& g, int index);
 
 }  // namespace qb

@@ -1,7 +1,7 @@
 // Walking, falling, stepping up, turning and the leader's climb.
 #include "sim/movement.h"
 
-#include "core/drawing.h"
+#include "draw/drawing.h"
 #include "sim/door.h"
 #include "sim/hazards.h"
 #include "sim/liquids.h"
@@ -16,11 +16,21 @@ void MarkCrumble(CharRecord& c, int x, int y) {
   c.CrumbleY = To16(y, "CrumbleY");
 }
 
-void StartShock(Game& g, int index) {
+LevelEnd StartShock(Game& g, int index) {
   CharRecord& c = g.Chars(index);
   c.Out = 0;
   c.Shocked = 1;
-  Shock(g, index);
+  return Shock(g, index);
+}
+
+// Whether a part of the move ended the character's turn, and how the level ended if it did.
+struct Moved {
+  bool done;
+  LevelEnd end;
+};
+constexpr Moved kGoOn{false, LevelEnd::None};
+Moved Done(LevelEnd end = LevelEnd::None) {
+  return {true, end};
 }
 
 void EndClimb(Game& g) {
@@ -29,58 +39,49 @@ void EndClimb(Game& g) {
   g.ui.Label2Back(ToolClimb) = kWhite;
 }
 
-// Step 2: what is below. Returns true when the step ended here.
-bool Below(Game& g, int index) {
+// What is below: falling off the level, falling on, into a liquid, onto an electric wall, a
+// door or a teleport. Solid ground lets the move go on.
+Moved Below(Game& g, int index) {
   CharRecord& c = g.Chars(index);
   const int b = c.Y + 1;
-  if (b == g.GridHeight) {
-    Die(g, index);
-    return true;
-  }
+  if (b == g.GridHeight) return Done(Die(g, index));
   switch (g.Grid(c.X, b)) {
     case Empty:
       c.Y = To16(b, "Y");
       c.FallCount = Add16(c.FallCount, 1, "FallCount");
       if (index == g.Leader && g.Floating) c.FallCount = 0;
-      return true;
+      return Done();
     case Water:
     case Lava:
       c.Out = 0;
       c.Splashed = 1;
-      Splash(g, index);
-      return true;
+      return Done(Splash(g, index));
     case ElectricWall:
-      StartShock(g, index);
-      return true;
+      return Done(StartShock(g, index));
     case ExitDoor:
       c.Out = 0;
-      if (c.FallCount < 16) {
-        GoInDoor(g, index);
-      } else {
-        c.Splatted = 1;
-        Splat(g, index);
-      }
-      return true;
+      if (c.FallCount < 16) return Done(GoInDoor(g, index));
+      c.Splatted = 1;
+      return Done(Splat(g, index));
     case TeleportSquare:
       c.Teleporting = 1;
       c.Y = To16(b, "Y");
       Teleport(g, index);
-      return true;
+      return Done();
     default:
-      return false;
+      return kGoOn;
   }
 }
 
-// Step 3: standing on solid ground. Returns true when the character splatted.
-bool Land(Game& g, int index) {
+// Standing on solid ground: a long fall ends in a splat; otherwise the fall count is reset.
+Moved Land(Game& g, int index) {
   CharRecord& c = g.Chars(index);
   const int b = c.Y + 1;
   if (IsCrumble(g.Grid(c.X, b))) MarkCrumble(c, c.X, b);
   if (c.FallCount > 15) {
     c.Out = 0;
     c.Splatted = 1;
-    Splat(g, index);
-    return true;
+    return Done(Splat(g, index));
   }
   if (index == g.Leader) {
     g.Floating = False;
@@ -88,101 +89,81 @@ bool Land(Game& g, int index) {
     g.ui.Label2Back(ToolBlock) = kWhite;
   }
   c.FallCount = 0;
-  return false;
+  return kGoOn;
 }
 
 // Walking or stepping up into square (x, y): an empty square is entered, an electric wall
-// shocks, a door saves, a teleport takes the character in. Returns false for any other square,
-// which blocks the way.
-bool StepInto(Game& g, int index, int x, int y) {
+// shocks, a door saves, a teleport takes the character in. Any other square blocks the way and
+// lets the move go on.
+Moved StepInto(Game& g, int index, int x, int y) {
   CharRecord& c = g.Chars(index);
   switch (g.Grid(x, y)) {
     case Empty:
       c.X = To16(x, "X");
       c.Y = To16(y, "Y");
-      return true;
+      return Done();
     case ElectricWall:
-      StartShock(g, index);
-      return true;
+      return Done(StartShock(g, index));
     case ExitDoor:
       c.Out = 0;
-      GoInDoor(g, index);
-      return true;
+      return Done(GoInDoor(g, index));
     case TeleportSquare:
       c.Teleporting = 1;
       c.X = To16(x, "X");
       c.Y = To16(y, "Y");
       Teleport(g, index);
-      return true;
+      return Done();
     default:
-      return false;
+      return kGoOn;
   }
 }
 
 }  // namespace
 
-void MoveChar(Game& g, int index) {
+LevelEnd MoveChar(Game& g, int index) {
   CharRecord& c = g.Chars(index);
-  if (index == g.Leader && g.ClimbArmed && g.Climbing) {
-    ClimbUp(g);
-    return;
-  }
-  if (Below(g, index)) return;
-  if (Land(g, index)) return;
+  if (index == g.Leader && g.ClimbArmed && g.Climbing) return ClimbUp(g);
+  if (const Moved m = Below(g, index); m.done) return m.end;
+  if (const Moved m = Land(g, index); m.done) return m.end;
 
   const int n = c.X + c.Dir;
-  if (n < 0 || n == g.GridWidth) {
-    Die(g, index);
-    return;
-  }
-  if (StepInto(g, index, n, c.Y)) return;
+  if (n < 0 || n == g.GridWidth) return Die(g, index);
+  if (const Moved m = StepInto(g, index, n, c.Y); m.done) return m.end;
 
   const int u = c.Y - 1;
-  if (u < 0) {
-    Die(g, index);
-    return;
-  }
+  if (u < 0) return Die(g, index);
   if (IsCrumble(g.Grid(n, c.Y)) && g.Grid(n, u) != Empty) MarkCrumble(c, n, c.Y);
-  if (StepInto(g, index, n, u)) return;
+  if (const Moved m = StepInto(g, index, n, u); m.done) return m.end;
   // A wall at least two squares high.
   if (IsCrumble(g.Grid(n, u))) MarkCrumble(c, n, u);
   if (index == g.Leader && g.ClimbArmed) {
     g.Climbing = True;
-    ClimbUp(g);
-  } else {
-    c.Dir = To16(-c.Dir, "Dir");
+    return ClimbUp(g);
   }
+  c.Dir = To16(-c.Dir, "Dir");
+  return LevelEnd::None;
 }
 
-void ClimbUp(Game& g) {
+LevelEnd ClimbUp(Game& g) {
   CharRecord& c = g.Chars(g.Leader);
   const int u = c.Y - 1;
   const int n = c.X + c.Dir;
-  if (u < 0) {
-    Die(g, g.Leader);
-    return;
-  }
+  if (u < 0) return Die(g, g.Leader);
   const int ahead = g.Grid(n, u);
   if (ahead == Empty) {
     EndClimb(g);
     c.X = To16(n, "X");
     c.Y = To16(u, "Y");
-    return;
+    return LevelEnd::None;
   }
-  if (ahead == ElectricWall) {
-    StartShock(g, g.Leader);
-    return;
-  }
+  if (ahead == ElectricWall) return StartShock(g, g.Leader);
   if (IsCrumble(g.Grid(n, c.Y))) MarkCrumble(c, n, c.Y);
   const int above = g.Grid(c.X, u);
   if (above == Empty) {
     c.Y = To16(u, "Y");
-    return;
+    return LevelEnd::None;
   }
-  if (above == ElectricWall) {
-    StartShock(g, g.Leader);
-    return;
-  }
+  if (above == ElectricWall) return StartShock(g, g.Leader);
   if (IsCrumble(above)) {
     // Only the position is noted; the ceiling is not marked for removal.
     c.CrumbleX = c.X;
@@ -190,6 +171,7 @@ void ClimbUp(Game& g) {
   }
   c.Dir = To16(-c.Dir, "Dir");
   EndClimb(g);
+  return LevelEnd::None;
 }
 
 bool OnGround(const Game& g) {

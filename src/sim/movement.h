@@ -5,9 +5,9 @@
 
 namespace qb {
 
-void MoveChar(Game& g, int index);
-void ClimbUp(Game& g);
-void Splat(Game& g, int index);
+LevelEnd MoveChar(Game& g, int index);
+LevelEnd ClimbUp(Game& g);
+LevelEnd Splat(Game& g, int index);
 // May the leader start a tool action here?
 bool OnGround(const Game& g);
 // May the explosion now being worked out destroy square (x, y)?

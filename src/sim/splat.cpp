@@ -1,19 +1,19 @@
 // The splat: a character dies from a long fall, in three stages of spray.
-#include "core/drawing.h"
+#include "draw/drawing.h"
 #include "sim/door.h"
 #include "sim/leader_loss.h"
 #include "sim/movement.h"
 
 namespace qb {
 
-void Splat(Game& g, int index) {
+LevelEnd Splat(Game& g, int index) {
   if (index == g.Leader) LoseLeaderTools(g);
   CharRecord& c = g.Chars(index);
   const Colour spray = index == g.Leader ? QBColor(0) : g.CrowdColour;
   const int x = c.X, y = c.Y;
   switch (c.Splatted) {
     case 1:
-      PlayEffect(g, 109);
+      PlayEffect(g, Sound::Splat);
       PaintIfInGrid(g, x - 1, y - 1, spray);
       PaintIfInGrid(g, x + 1, y - 1, spray);
       c.Splatted = 2;
@@ -29,9 +29,9 @@ void Splat(Game& g, int index) {
       RepaintSquare(g, x - 1, y);
       RepaintSquare(g, x + 1, y);
       c.Splatted = 0;
-      UpdateInOut(g);
-      break;
+      return UpdateInOut(g);
   }
+  return LevelEnd::None;
 }
 
 }  // namespace qb

@@ -1,7 +1,7 @@
 // Teleports: a four-tick passage to the partner of a pair.
 #include "sim/teleport.h"
 
-#include "core/drawing.h"
+#include "draw/drawing.h"
 
 namespace qb {
 
@@ -10,7 +10,7 @@ void Teleport(Game& g, int index) {
   const Colour own = index == g.Leader ? QBColor(0) : g.CrowdColour;
   switch (c.Teleporting) {
     case 1:
-      PlayEffect(g, 110);
+      PlayEffect(g, Sound::Teleport);
       DrawBlock(g, c.X, c.Y, QBColor(10));
       c.Teleporting = 2;
       break;

@@ -1,10 +1,10 @@
 // LoadLevel on hand-built files: missing and refused levels leave the game alone, odd files load.
 #include <gtest/gtest.h>
 
-#include "core/cycle.h"
-#include "core/loader.h"
 #include "game_compare.h"
+#include "level/loader.h"
 #include "level_bytes.h"
+#include "play/cycle.h"
 #include "support/level_builder.h"
 
 namespace qb::test {
@@ -17,7 +17,7 @@ struct PlayingGame : TestGame {
   }
   LoadResult Load(const std::vector<uint8_t>& bytes) {
     host.files["other.lvl"] = bytes;
-    return LoadLevel(g, "other.lvl");
+    return OpenLevel(g, "other.lvl");
   }
 };
 
@@ -48,7 +48,7 @@ TEST(LoadLevel, AZeroByteOrAbsentFileIsAMissingLevel) {
   PlayingGame p;
   p.g.CurrentSkill = 1;
   EXPECT_EQ(p.Load({}), LoadResult::Missing);
-  EXPECT_EQ(LoadLevel(p.g, "no such file.lvl"), LoadResult::Missing);
+  EXPECT_EQ(OpenLevel(p.g, "no such file.lvl"), LoadResult::Missing);
   EXPECT_EQ(p.host.messages.size(), 2u);
   EXPECT_EQ(p.host.messages.back(), "Quorbit: This level does not exist!");
   EXPECT_EQ(p.g.CurrentSkill, 1);

@@ -1,10 +1,10 @@
 // The drawing model: squares, characters, flashes, the overview map and its frame.
-#include "core/drawing.h"
+#include "draw/drawing.h"
 
 #include <gtest/gtest.h>
 
+#include "play/level_commands.h"
 #include "support/level_builder.h"
-#include "tools/level_commands.h"
 
 namespace qb {
 namespace {

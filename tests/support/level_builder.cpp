@@ -3,8 +3,10 @@
 
 #include <stdexcept>
 
-#include "core/cycle.h"
-#include "core/loader.h"
+#include "level/loader.h"
+#include "play/cycle.h"
+#include "play/level_end.h"
+#include "play/use_tool.h"
 
 namespace qb::test {
 
@@ -52,13 +54,16 @@ TestGame::TestGame(const LevelData& level, bool titleCard) {
   g.LevelFile = "test.lvl";
   g.SkipTitle = titleCard ? False : True;
   g.ReplayLog(0) = "E";
-  if (LoadLevel(g, "test.lvl") != LoadResult::Loaded)
-    throw std::runtime_error("test level refused: " +
-                             (host.messages.empty() ? std::string("?") : host.messages.back()));
+  if (const LoadOutcome load = LoadLevel(g, "test.lvl"); !load.Loaded())
+    throw std::runtime_error("test level refused: " + load.message);
 }
 
 void TestGame::Ticks(int n) {
   for (int i = 0; i < n; ++i) Timer1_Timer(g);
+}
+
+void TestGame::Use(int tool) {
+  FinishLevel(g, UseTool(g, tool));
 }
 
 }  // namespace qb::test

@@ -29,6 +29,8 @@ struct TestGame {
   explicit TestGame(const LevelData& level, bool titleCard = false);
   // Runs n ticks of the game timer.
   void Ticks(int n);
+  // The leader uses a tool, as a key press does, and the level's end follows if it ends.
+  void Use(int tool);
   const CharRecord& C(int i) const { return g.Chars(i); }
 };
 

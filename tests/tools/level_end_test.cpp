@@ -1,11 +1,11 @@
 // The level timer, the move to the next level and tier, and the end of the game.
 #include <gtest/gtest.h>
 
-#include "core/cycle.h"
 #include "core/level_file.h"
-#include "core/loader.h"
+#include "level/loader.h"
+#include "play/cycle.h"
+#include "sim/level_timer.h"
 #include "support/level_builder.h"
-#include "tools/level_timer.h"
 
 namespace qb {
 namespace {
@@ -56,7 +56,7 @@ struct Progress : TestGame {
   void Start(int tier, int n) {
     g.LevelFile = LevelPath(g, tier, n);
     g.SkipTitle = True;
-    ASSERT_EQ(LoadLevel(g, g.LevelFile), LoadResult::Loaded);
+    ASSERT_TRUE(LoadLevel(g, g.LevelFile).Loaded());
   }
 };
 

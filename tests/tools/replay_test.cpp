@@ -1,12 +1,12 @@
 // Replays of the previous attempt, replay files, and taking over from a replay.
-#include "tools/replay.h"
+#include "play/replay.h"
 
 #include <gtest/gtest.h>
 
+#include "play/commands.h"
+#include "play/level_commands.h"
+#include "play/use_tool.h"
 #include "support/level_builder.h"
-#include "tools/commands.h"
-#include "tools/level_commands.h"
-#include "tools/use_tool.h"
 
 namespace qb {
 namespace {
@@ -31,10 +31,10 @@ std::vector<CharRecord> Chars(const Game& g) {
 TEST(Replay, ARestartReplaysThePreviousAttemptExactlyThenHandsOver) {
   TestGame t(Field());
   t.Ticks(7);
-  UseTool(t.g, ToolBuild);
+  t.Use(ToolBuild);
   t.Ticks(3);
-  UseTool(t.g, ToolSlow);
-  UseTool(t.g, ToolChange);
+  t.Use(ToolSlow);
+  t.Use(ToolChange);
   t.Ticks(9);
   const auto before = Chars(t.g);
   const int stock = t.g.ToolStock(ToolBuild);
@@ -56,9 +56,9 @@ TEST(Replay, ARestartReplaysThePreviousAttemptExactlyThenHandsOver) {
 TEST(Replay, PressingAToolDuringAReplayTakesOverAndDropsTheRest) {
   TestGame t(Field());
   t.Ticks(7);
-  UseTool(t.g, ToolBuild);
+  t.Use(ToolBuild);
   t.Ticks(10);
-  UseTool(t.g, ToolJump);
+  t.Use(ToolJump);
   t.Ticks(2);
   LevelCmd_Click(t.g, 3);
   t.Ticks(12);
@@ -74,7 +74,7 @@ TEST(Replay, ReplayOffPlaysNothingButStillRecords) {
   TestGame t(Field());
   t.g.ui.OptionsChecked(OptReplay) = false;
   t.Ticks(7);
-  UseTool(t.g, ToolBuild);
+  t.Use(ToolBuild);
   LevelCmd_Click(t.g, 3);
   EXPECT_EQ(t.g.ReplayPlaying, False);
   t.Ticks(10);

@@ -1,8 +1,8 @@
 // Each tool doing its work in a level: jump, climb, build, block, bomb, laser.
 #include <gtest/gtest.h>
 
+#include "play/use_tool.h"
 #include "support/level_builder.h"
-#include "tools/use_tool.h"
 
 namespace qb {
 namespace {
@@ -24,7 +24,7 @@ TEST(Jump, OverAGapOfWaterTwoUpTwoDownFourColumnsOn) {
                     2, {0, 0, 0, 0, 1, 0, 0, 0}, 1);
   t.Ticks(5);  // at x=4, the edge
   ASSERT_EQ(t.C(0).X, 4);
-  UseTool(t.g, ToolJump);
+  t.Use(ToolJump);
   EXPECT_EQ(t.C(0).X, 5);
   EXPECT_EQ(t.C(0).Y, 1);
   EXPECT_EQ(t.g.ui.Label2Caption(ToolJump), "");
@@ -44,7 +44,7 @@ TEST(Jump, AgainstAWallTwoHighItIsSpentAndTheLeaderStays) {
       Play({"................", "...M............", "...M............", "################"}, 2,
            {0, 0, 0, 0, 2, 0, 0, 0}, 1);
   t.Ticks(3);
-  UseTool(t.g, ToolJump);
+  t.Use(ToolJump);
   EXPECT_EQ(t.C(0).X, 2);
   EXPECT_EQ(t.g.ToolStock(ToolJump), 1);
   EXPECT_EQ(t.g.JumpStage, 0);
@@ -55,8 +55,8 @@ TEST(Jump, WithSlowRunningTheArcIsThreeUpThreeDown) {
                      "################"},
                     3, {0, 0, 0, 0, 1, 1, 0, 0}, 1);
   t.Ticks(2);
-  UseTool(t.g, ToolSlow);
-  UseTool(t.g, ToolJump);
+  t.Use(ToolSlow);
+  t.Use(ToolJump);
   t.Ticks(5);
   EXPECT_EQ(t.C(0).X, 1 + 6);
   EXPECT_EQ(t.C(0).Y, 3);
@@ -67,7 +67,7 @@ TEST(Climb, UpAThreeHighWallAndOverTheTop) {
                      "MMMMMMMMMMMM"},
                     4, {1, 0, 0, 0, 0, 0, 0, 0}, 1);
   t.Ticks(1);
-  UseTool(t.g, ToolClimb);
+  t.Use(ToolClimb);
   t.Ticks(5);
   EXPECT_EQ(t.C(0).X, 5);
   EXPECT_EQ(t.g.Climbing, False);
@@ -89,7 +89,7 @@ TEST(Climb, ACeilingMakesTheLeaderGiveUpFacingBack) {
       Play({"............", ".....MM.....", "......M.....", "......M.....", "MMMMMMMMMMMM"}, 3,
            {1, 0, 0, 0, 0, 0, 0, 0}, 1);
   t.Ticks(1);
-  UseTool(t.g, ToolClimb);
+  t.Use(ToolClimb);
   t.Ticks(7);
   EXPECT_EQ(t.g.ClimbArmed, False);
   EXPECT_EQ(t.C(0).Dir, -1);
@@ -105,8 +105,8 @@ TEST(Build, AStaircaseOverAGapThatTheCrowdFollows) {
   t.Ticks(6);  // the leader (released in the second cycle) at the edge, x=4
   ASSERT_EQ(t.C(0).X, 4);
   for (int step = 0; step < 4; ++step) {
-    UseTool(t.g, ToolBuild);
-    UseTool(t.g, ToolBuild);  // a second press builds nothing: the square is filled
+    t.Use(ToolBuild);
+    t.Use(ToolBuild);  // a second press builds nothing: the square is filled
     t.Ticks(1);
   }
   EXPECT_EQ(t.g.ToolStock(ToolBuild), 0);
@@ -122,7 +122,7 @@ TEST(Block, RaisesAWallTwoHighThatTurnsTheCrowd) {
       Play({"................", "................", "................", "################"}, 2,
            {0, 1, 0, 0, 0, 0, 0, 0}, 3, 3);
   t.Ticks(10);  // leader at x=7
-  UseTool(t.g, ToolBlock);
+  t.Use(ToolBlock);
   EXPECT_EQ(t.g.Grid(t.C(0).X + 1, 2), BlockSquare);
   EXPECT_EQ(t.g.Grid(t.C(0).X + 1, 1), BlockSquare);
   EXPECT_EQ(t.g.Blocking, 2);
@@ -137,7 +137,7 @@ TEST(Bomb, BlowsAHoleThroughASoftFloorButNotMetalAndSparesTheLeader) {
                      "################", "................", "MMMMMMMMMMMMMMMM"},
                     2, {0, 0, 0, 0, 0, 0, 1, 0}, 2, 4);
   t.Ticks(13);  // the leader at x=9, the second character at x=5
-  UseTool(t.g, ToolBomb);
+  t.Use(ToolBomb);
   EXPECT_EQ(t.g.ui.Label1Back(ToolBomb), kToolInUse);
   EXPECT_TRUE(t.host.PlayedSound(102));
   t.Ticks(4);
@@ -155,7 +155,7 @@ TEST(Laser, StopsAtAMetalWallAndExplodesThereBreakingOnlySoftSquares) {
       Play({"................", ".........#M#....", ".....#..##M.....", "################"}, 2,
            {0, 0, 0, 0, 0, 0, 0, 1}, 1);
   t.Ticks(3);  // leader at x=2
-  UseTool(t.g, ToolLaser);
+  t.Use(ToolLaser);
   EXPECT_EQ(t.g.Lasering, 2);
   EXPECT_EQ(t.g.ReplayLog(3), "L");
   t.Ticks(7);  // the beam passes the soft walls and stops at the metal at x=10
@@ -176,7 +176,7 @@ TEST(Laser, ABeamThatRunsOffTheLevelExplodesNowhere) {
   TestGame t =
       Play({"........", "........", "........", "########"}, 2, {0, 0, 0, 0, 0, 0, 0, 1}, 1);
   t.Ticks(3);  // leader at x=2, five squares from the right edge
-  UseTool(t.g, ToolLaser);
+  t.Use(ToolLaser);
   t.Ticks(6);
   EXPECT_EQ(t.g.Lasering, 0);
   EXPECT_EQ(t.g.Bombing, 0);

@@ -1,10 +1,10 @@
 // Tool use: what is refused, what is spent, what is recorded.
-#include "tools/use_tool.h"
+#include "play/use_tool.h"
 
 #include <gtest/gtest.h>
 
+#include "play/level_commands.h"
 #include "support/level_builder.h"
-#include "tools/level_commands.h"
 
 namespace qb {
 namespace {
@@ -25,10 +25,10 @@ TEST(UseTool, AnEmptyStockDoesNothingNotEvenUnpause) {
   t.Ticks(2);
   LevelCmd_Click(t.g, 0);
   ASSERT_FALSE(t.g.ui.Timer1Enabled);
-  UseTool(t.g, ToolClimb);
+  t.Use(ToolClimb);
   EXPECT_FALSE(t.g.ui.Timer1Enabled);
   EXPECT_EQ(t.g.ClimbArmed, False);
-  UseTool(t.g, ToolSlow);
+  t.Use(ToolSlow);
   EXPECT_TRUE(t.g.ui.Timer1Enabled);  // a usable tool lifts the pause first
   EXPECT_EQ(t.g.Tool5Countdown, 20);
 }
@@ -36,13 +36,13 @@ TEST(UseTool, AnEmptyStockDoesNothingNotEvenUnpause) {
 TEST(UseTool, SpendingShowsTheCountOrNothingAndRecordsTheLetter) {
   TestGame t(Floor({2, 0, 0, 0, 0, 1, 0, 0}));
   t.Ticks(2);
-  UseTool(t.g, ToolClimb);
-  UseTool(t.g, ToolClimb);  // already armed: ignored, costs nothing
+  t.Use(ToolClimb);
+  t.Use(ToolClimb);  // already armed: ignored, costs nothing
   EXPECT_EQ(t.g.ToolStock(ToolClimb), 1);
   EXPECT_EQ(t.g.ui.Label2Caption(ToolClimb), "1");
   EXPECT_EQ(t.g.ui.Label1Back(ToolClimb), kToolInUse);
-  UseTool(t.g, ToolSlow);
-  UseTool(t.g, ToolSlow);  // still running: ignored
+  t.Use(ToolSlow);
+  t.Use(ToolSlow);  // still running: ignored
   EXPECT_EQ(t.g.ToolStock(ToolSlow), 0);
   EXPECT_EQ(t.g.ui.Label2Caption(ToolSlow), "");
   EXPECT_EQ(t.g.ReplayLog(2), "CR");
@@ -55,10 +55,10 @@ TEST(UseTool, InTheAirOnlyTheBombIsAccepted) {
   TestGame t(d);
   t.Ticks(2);  // the leader is falling
   ASSERT_NE(t.C(0).FallCount, 0);
-  for (int tool : {ToolBlock, ToolBuild, ToolJump, ToolLaser}) UseTool(t.g, tool);
+  for (int tool : {ToolBlock, ToolBuild, ToolJump, ToolLaser}) t.Use(tool);
   EXPECT_EQ(t.g.Blocking + t.g.Building + t.g.JumpStage + t.g.Lasering, 0);
   EXPECT_EQ(t.g.ReplayLog(2), "");
-  UseTool(t.g, ToolBomb);
+  t.Use(ToolBomb);
   EXPECT_EQ(t.g.Bombing, 2);
   EXPECT_EQ(t.g.ReplayLog(2), "X");
 }
@@ -66,11 +66,10 @@ TEST(UseTool, InTheAirOnlyTheBombIsAccepted) {
 TEST(UseTool, WhileAJumpOrBlockRunsOnlyClimbIsAccepted) {
   TestGame t(Floor({1, 1, 1, 1, 1, 1, 1, 1}));
   t.Ticks(2);
-  UseTool(t.g, ToolJump);
+  t.Use(ToolJump);
   ASSERT_EQ(t.g.JumpStage, 2);
-  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser})
-    UseTool(t.g, tool);
-  UseTool(t.g, ToolClimb);
+  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser}) t.Use(tool);
+  t.Use(ToolClimb);
   EXPECT_EQ(t.g.ReplayLog(2), "JC");
   for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser})
     EXPECT_EQ(t.g.ToolStock(tool), 1) << tool;
@@ -84,9 +83,9 @@ TEST(UseTool, AfterTheLeaderIsLostOnlyChangeWorksAndFindsTheNextCharacter) {
   t.Ticks(8);
   ASSERT_FALSE(t.C(0).Out);
   for (int tool = 0; tool < 8; ++tool)
-    if (tool != ToolChange) UseTool(t.g, tool);
+    if (tool != ToolChange) t.Use(tool);
   EXPECT_EQ(t.g.ReplayLog(t.g.ReplayTick), "");
-  UseTool(t.g, ToolChange);
+  t.Use(ToolChange);
   EXPECT_EQ(t.g.Leader, 1);
   EXPECT_EQ(t.g.ToolStock(ToolChange), 1);
   EXPECT_EQ(t.g.ReplayLog(t.g.ReplayTick), "D");
@@ -95,14 +94,14 @@ TEST(UseTool, AfterTheLeaderIsLostOnlyChangeWorksAndFindsTheNextCharacter) {
 TEST(ChangeLeader, CyclesThroughCharactersInTableOrderAndCostsNothingWhenAlone) {
   TestGame t(Floor({0, 0, 0, 5, 0, 0, 0, 0}));
   t.Ticks(1);
-  UseTool(t.g, ToolChange);  // only one character out
+  t.Use(ToolChange);  // only one character out
   EXPECT_EQ(t.g.ToolStock(ToolChange), 5);
   t.Ticks(2);
-  UseTool(t.g, ToolChange);
+  t.Use(ToolChange);
   EXPECT_EQ(t.g.Leader, 1);
-  UseTool(t.g, ToolChange);
+  t.Use(ToolChange);
   EXPECT_EQ(t.g.Leader, 2);
-  UseTool(t.g, ToolChange);
+  t.Use(ToolChange);
   EXPECT_EQ(t.g.Leader, 0);  // wraps to index 0
   EXPECT_EQ(t.g.ToolStock(ToolChange), 2);
 }
@@ -116,11 +115,11 @@ TEST(ChangeLeader, ShowChangeMovesTheViewToTheNewLeaderWithinTheScrollLimits) {
   TestGame t(d);
   t.g.ui.OptionsChecked(OptShowChange) = true;
   t.Ticks(2);  // char 0 at x=51, char 1 released at x=70
-  UseTool(t.g, ToolChange);
+  t.Use(ToolChange);
   EXPECT_EQ(t.g.ViewX, 70 - 16);
   EXPECT_EQ(t.g.ViewY, 20);  // 58 - 16 = 42 is past the bottom limit of 60 - 40
   t.g.ui.OptionsChecked(OptShowChange) = false;
-  UseTool(t.g, ToolChange);
+  t.Use(ToolChange);
   EXPECT_EQ(t.g.ViewX, 54);
 }
 

@@ -1,7 +1,7 @@
 // The play window's menus: the tree as the player sees it and what the commands do to the game.
 #include <QtTest>
 
-#include "core/cycle.h"
+#include "play/cycle.h"
 #include "ui/desktop/qsettings_store.h"
 #include "window_fixture.h"
 

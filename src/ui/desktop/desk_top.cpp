@@ -10,10 +10,10 @@
 #include <QScreen>
 #include <QSignalBlocker>
 
-#include "core/cycle.h"
-#include "core/music.h"
-#include "tools/commands.h"
-#include "tools/level_commands.h"
+#include "level/music.h"
+#include "play/commands.h"
+#include "play/cycle.h"
+#include "play/level_commands.h"
 #include "ui/desktop/twips.h"
 
 namespace qb::ui {
@@ -186,8 +186,6 @@ bool DeskTop::Run(const std::function<void()>& call) {
   bool ok = true;
   try {
     call();
-  } catch (const LevelOver&) {
-    // The level ended inside the call: nothing more of it runs.
   } catch (const std::exception& e) {
     ok = false;
     ReportFault(QString::fromStdString(e.what()));

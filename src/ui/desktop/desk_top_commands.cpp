@@ -3,13 +3,13 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include "core/drawing.h"
 #include "core/game.h"
-#include "core/loader.h"
-#include "core/music.h"
-#include "tools/commands.h"
-#include "tools/level_commands.h"
-#include "tools/replay.h"
+#include "draw/drawing.h"
+#include "level/loader.h"
+#include "level/music.h"
+#include "play/commands.h"
+#include "play/level_commands.h"
+#include "play/replay.h"
 #include "ui/desktop/desk_top.h"
 
 namespace qb::ui {
@@ -79,7 +79,7 @@ void DeskTop::PlayLevel(int tier, int number) {
     g_.SkipTitle = False;
     g_.LevelFile = LevelPath(g_, tier, number);
     StopMusic(g_);
-    LoadLevel(g_, g_.LevelFile);
+    OpenLevel(g_, g_.LevelFile);
   });
 }
 

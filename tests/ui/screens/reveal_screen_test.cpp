@@ -5,7 +5,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/screens.h"
+#include "level/screens.h"
 #include "support/recorder_host.h"
 #include "ui/screens/screens.h"
 #include "ui/screens/won_game_screen.h"

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <cstdio>
 
-#include "core/screens.h"
+#include "level/screens.h"
 #include "support/recorder_host.h"
 #include "ui/screens/about_box.h"
 #include "ui/screens/art.h"

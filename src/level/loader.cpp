@@ -1,9 +1,9 @@
 // Loading a level into the game and setting up the play window for it.
-#include "core/loader.h"
+#include "level/loader.h"
 
-#include "core/drawing.h"
-#include "core/music.h"
-#include "core/screens.h"
+#include "draw/drawing.h"
+#include "level/music.h"
+#include "level/screens.h"
 
 namespace qb {
 
@@ -40,22 +40,25 @@ void ApplyLevel(Game& g, const LevelData& d) {
     }
 }
 
-LoadResult LoadLevel(Game& g, const std::string& fileName) {
+LoadResult OpenLevel(Game& g, const std::string& fileName) {
+  const LoadOutcome outcome = LoadLevel(g, fileName);
+  if (!outcome.Loaded()) g.host->ShowMessage(outcome.message, "Quorbit");
+  return outcome.result;
+}
+
+LoadOutcome LoadLevel(Game& g, const std::string& fileName) {
   const int32_t keptSkill = g.CurrentSkill;
   const auto bytes = g.host->ReadFile(fileName);
   const LevelRead read = ReadLevel(bytes ? *bytes : std::vector<uint8_t>{});
-  if (read.status == ReadStatus::Unsupported) {
-    g.host->ShowMessage("The level file " + fileName + " cannot be played: " + read.problem + ".",
-                        "Quorbit");
-    return LoadResult::Unsupported;
-  }
+  if (read.status == ReadStatus::Unsupported)
+    return {LoadResult::Unsupported,
+            "The level file " + fileName + " cannot be played: " + read.problem + "."};
   if (read.status == ReadStatus::Missing) {
     g.LevelTitle = read.data.Title;
     g.LevelName = read.data.Title;
     g.LevelNumber = read.data.Number;
     g.CurrentSkill = keptSkill;
-    g.host->ShowMessage("This level does not exist!", "Quorbit");
-    return LoadResult::Missing;
+    return {LoadResult::Missing, "This level does not exist!"};
   }
   ApplyLevel(g, read.data);
   g.SettingUp = True;
@@ -74,7 +77,7 @@ LoadResult LoadLevel(Game& g, const std::string& fileName) {
   g.ui.Timer1Enabled = true;
   ++g.ui.Timer1Restarts;
   g.SettingUp = False;
-  return LoadResult::Loaded;
+  return {};
 }
 
 void ResetLevelState(Game& g) {

@@ -1,5 +1,5 @@
 // Background music: the track rotation and the commands sent to the music device.
-#include "core/music.h"
+#include "level/music.h"
 
 namespace qb {
 

@@ -1,10 +1,10 @@
 // The Level and Options menu commands as far as they touch the game.
-#include "tools/level_commands.h"
+#include "play/level_commands.h"
 
-#include "core/drawing.h"
-#include "core/loader.h"
-#include "core/music.h"
-#include "tools/level_timer.h"
+#include "draw/drawing.h"
+#include "level/loader.h"
+#include "level/music.h"
+#include "play/level_end.h"
 
 namespace qb {
 namespace {
@@ -24,7 +24,7 @@ void Pause(Game& g) {
   g.ui.Timer1Enabled = false;
   g.ui.LevelCmdChecked(0) = true;
   g.ui.Label3Back(0) = kPauseOn;
-  if (g.ui.Timer1Interval == 10) LevelCmd_Click(g, 1);
+  if (g.ui.Timer1Interval == 10) LevelCmd_Click(g, CmdFast);
 }
 
 void Fast(Game& g) {
@@ -48,7 +48,7 @@ void Restart(Game& g) {
     g.SkipTitle = False;
     GoToNextLevel(g);
   } else {
-    LoadLevel(g, g.LevelFile);
+    OpenLevel(g, g.LevelFile);
   }
 }
 
@@ -66,19 +66,19 @@ void EndLevel(Game& g) {
 void LevelCmd_Click(Game& g, int index) {
   if (!g.ui.Frame1Visible) return;
   switch (index) {
-    case 0:
+    case CmdPause:
       Pause(g);
       break;
-    case 1:
+    case CmdFast:
       Fast(g);
       break;
-    case 3:
+    case CmdRestart:
       Restart(g);
       break;
-    case 4:
+    case CmdEndLevel:
       EndLevel(g);
       break;
-    case 6:
+    case CmdNextTrack:
       StopMusic(g);
       NextTrack(g);
       if (g.ui.Option(OptMusic)) PlayTrack(g, g.CurrentTrack);
@@ -112,7 +112,7 @@ void OptionsCmd_Click(Game& g, int index) {
 
 void PauseForDialog(Game& g) {
   g.ui.Timer3Enabled = false;
-  if (g.ui.Timer1Enabled) LevelCmd_Click(g, 0);
+  if (g.ui.Timer1Enabled) LevelCmd_Click(g, CmdPause);
 }
 
 }  // namespace qb

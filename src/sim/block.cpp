@@ -1,8 +1,8 @@
 // The leader's block: a wall two squares high in front of him, with a flash round him.
-#include "tools/block.h"
+#include "sim/block.h"
 
-#include "core/drawing.h"
-#include "tools/use_tool.h"
+#include "draw/drawing.h"
+#include "sim/spend_tool.h"
 
 namespace qb {
 namespace {

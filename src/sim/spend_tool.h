@@ -1,11 +1,10 @@
-// The single entry through which the leader uses a tool, and the spending of a tool.
+// Spending a tool and colouring its labels.
 #pragma once
 
 #include "core/game.h"
 
 namespace qb {
 
-void UseTool(Game& g, int tool);
 // Lowers the stock, updates the count label ("" at 0) and records the replay letter, appended
 // to this cycle's slot or, for the jump and the laser, put in front of it.
 void SpendTool(Game& g, int tool, bool prepend = false);

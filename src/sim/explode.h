@@ -5,6 +5,6 @@
 
 namespace qb {
 
-void Explode(Game& g);
+LevelEnd Explode(Game& g);
 
 }  // namespace qb

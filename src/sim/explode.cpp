@@ -1,13 +1,13 @@
 // The explosion of a bomb or of the laser's hit, one stage per call: a flash at the centre, a
 // ring, the ring cleared, the blast area lit, then the blast.
-#include "tools/explode.h"
+#include "sim/explode.h"
 
 #include <cstdlib>
 
-#include "core/drawing.h"
+#include "draw/drawing.h"
 #include "sim/door.h"
 #include "sim/movement.h"
-#include "tools/use_tool.h"
+#include "sim/spend_tool.h"
 
 namespace qb {
 namespace {
@@ -54,7 +54,7 @@ void Blast(Game& g, int cx, int cy) {
 
 }  // namespace
 
-void Explode(Game& g) {
+LevelEnd Explode(Game& g) {
   const bool bomb = g.LaserHitX == 0;
   int cx = g.LaserHitX, cy = g.LaserHitY;
   if (bomb) {
@@ -67,7 +67,7 @@ void Explode(Game& g) {
         SpendTool(g, ToolBomb);
         ColourTool(g, ToolBomb, kToolInUse);
       }
-      PlayEffect(g, 102);
+      PlayEffect(g, Sound::Bomb);
       if (InUsedArea(g, cx, cy)) DrawBlock(g, cx, cy, QBColor(14));
       g.Bombing = 2;
       break;
@@ -89,9 +89,9 @@ void Explode(Game& g) {
       g.Floating = False;
       if (bomb) ColourTool(g, ToolBomb, kWhite);
       g.Bombing = 0;
-      UpdateInOut(g);
-      break;
+      return UpdateInOut(g);
   }
+  return LevelEnd::None;
 }
 
 }  // namespace qb

@@ -1,7 +1,7 @@
 // The title card and the result screens: what they do to the game and the texts they show.
-#include "core/screens.h"
+#include "level/screens.h"
 
-#include "core/drawing.h"
+#include "draw/drawing.h"
 
 namespace qb {
 
@@ -95,13 +95,13 @@ void ShowTitleScreen(Game& g) {
 void ShowWinLevel(Game& g) {
   for (int t = 1; t <= kLastReplayTick; ++t) g.ReplayLog(t) = "";
   const ScreenTexts texts = WinLevelTexts(g);
-  PlayEffect(g, g.LevelNumber == 20 ? 114 : 113);
+  PlayEffect(g, g.LevelNumber == 20 ? Sound::TierWon : Sound::LevelWon);
   g.host->ShowScreen(Screen::WinLevel, texts);
 }
 
 void ShowLooseLevel(Game& g) {
   const ScreenTexts texts = LooseLevelTexts(g);
-  PlayEffect(g, 108);
+  PlayEffect(g, Sound::LevelLost);
   g.host->ShowScreen(Screen::LooseLevel, texts);
 }
 

@@ -8,7 +8,7 @@
 
 namespace qb {
 
-void ReplayMe(Game& g);
+LevelEnd ReplayMe(Game& g);
 // Stops a replay: the player takes over from this cycle.
 void Label8_Click(Game& g);
 

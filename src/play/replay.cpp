@@ -1,14 +1,14 @@
 // The replay of the previous attempt, and replay files.
-#include "tools/replay.h"
+#include "play/replay.h"
 
 #include <cctype>
 #include <sstream>
 
-#include "tools/use_tool.h"
+#include "play/use_tool.h"
 
 namespace qb {
 
-void ReplayMe(Game& g) {
+LevelEnd ReplayMe(Game& g) {
   const std::string s = g.ReplayLog(g.ReplayTick);
   g.ReplayLog(g.ReplayTick) = "";
   for (char letter : s) {
@@ -19,8 +19,10 @@ void ReplayMe(Game& g) {
       continue;
     }
     for (int t = 0; t < kToolCount; ++t)
-      if (kReplayLetters[t] == letter) UseTool(g, t);
+      if (kReplayLetters[t] == letter)
+        if (const LevelEnd end = UseTool(g, t); Ended(end)) return end;
   }
+  return LevelEnd::None;
 }
 
 void Label8_Click(Game& g) {

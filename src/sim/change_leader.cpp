@@ -1,10 +1,10 @@
 // Passing the leader role to the next character still in play.
-#include "tools/change_leader.h"
+#include "sim/change_leader.h"
 
 #include <algorithm>
 
-#include "core/drawing.h"
-#include "tools/use_tool.h"
+#include "draw/drawing.h"
+#include "sim/spend_tool.h"
 
 namespace qb {
 

@@ -1,26 +1,18 @@
 // The player's commands with plain arguments.
-#include "tools/commands.h"
+#include "play/commands.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "core/drawing.h"
-#include "tools/change_leader.h"
-#include "tools/level_commands.h"
-#include "tools/replay.h"
-#include "tools/use_tool.h"
+#include "draw/drawing.h"
+#include "play/level_commands.h"
+#include "play/level_end.h"
+#include "play/replay.h"
+#include "play/use_tool.h"
+#include "sim/change_leader.h"
 
 namespace qb {
 namespace {
-
-// Runs a command; a level that ends inside it ends the command too.
-template <typename F>
-void Guarded(F&& f) {
-  try {
-    f();
-  } catch (const LevelOver&) {
-  }
-}
 
 // After Pause or Fast, a label still showing "pressed" takes the colour of its state.
 void SettleLabel3(Game& g, int index) {
@@ -67,16 +59,16 @@ void Form_KeyUp(Game& g, int keyCode) {
       Label3_MouseUp(g, 0, false);
       break;
     case KeyLeft:
-      Guarded([&] { ScrollBy(g, -1, 0); });
+      ScrollBy(g, -1, 0);
       break;
     case KeyRight:
-      Guarded([&] { ScrollBy(g, 1, 0); });
+      ScrollBy(g, 1, 0);
       break;
     case KeyUp:
-      Guarded([&] { ScrollBy(g, 0, -1); });
+      ScrollBy(g, 0, -1);
       break;
     case KeyDown:
-      Guarded([&] { ScrollBy(g, 0, 1); });
+      ScrollBy(g, 0, 1);
       break;
     default:
       break;
@@ -84,10 +76,8 @@ void Form_KeyUp(Game& g, int keyCode) {
 }
 
 void ToolButtonDown(Game& g, int tool) {
-  Guarded([&] {
-    Label8_Click(g);
-    UseTool(g, tool);
-  });
+  Label8_Click(g);
+  FinishLevel(g, UseTool(g, tool));
 }
 
 void ToolButtonUp(Game& g, int tool) {
@@ -101,7 +91,7 @@ void Label3_MouseDown(Game& g, int index, bool rightButton) {
 
 void Label3_MouseUp(Game& g, int index, bool rightButton) {
   if (rightButton) return;
-  Guarded([&] { LevelCmd_Click(g, index); });
+  LevelCmd_Click(g, index);
   SettleLabel3(g, index);
 }
 
@@ -112,19 +102,17 @@ void Label7_MouseDown(Game& g, bool rightButton) {
 void Label7_MouseUp(Game& g, bool rightButton) {
   if (rightButton) return;
   g.ui.Label7Back = kSystemWindow;
-  Guarded([&] { LevelCmd_Click(g, 3); });
+  LevelCmd_Click(g, CmdRestart);
 }
 
 void OverviewClick(Game& g, double x, double y) {
-  Guarded([&] {
-    const int vx = static_cast<int>(std::floor(x - kViewSize / 2.0));
-    const int vy = static_cast<int>(std::floor(y - kViewSize / 2.0));
-    const int nx = std::clamp(vx, 0, std::max(g.GridWidth - kViewSize, 0));
-    const int ny = std::clamp(vy, 0, std::max<int>(g.GridHeight - kViewSize, 0));
-    g.ViewX = nx;
-    g.ViewY = To16(ny, "ViewY");
-    DrawView(g);
-  });
+  const int vx = static_cast<int>(std::floor(x - kViewSize / 2.0));
+  const int vy = static_cast<int>(std::floor(y - kViewSize / 2.0));
+  const int nx = std::clamp(vx, 0, std::max(g.GridWidth - kViewSize, 0));
+  const int ny = std::clamp(vy, 0, std::max<int>(g.GridHeight - kViewSize, 0));
+  g.ViewX = nx;
+  g.ViewY = To16(ny, "ViewY");
+  DrawView(g);
 }
 
 void ScrollMe(Game& g, int x, int y, int width, int height) {
@@ -158,7 +146,7 @@ void ScrollMe(Game& g, int x, int y, int width, int height) {
     scrolled = true;
   }
   if (scrolled) {
-    Guarded([&] { DrawView(g); });
+    DrawView(g);
     g.ui.Timer3Enabled = true;
   } else {
     g.ui.Timer3Enabled = false;

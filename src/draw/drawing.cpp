@@ -1,5 +1,5 @@
 // Drawing the play view, the overview map and the characters into the picture model.
-#include "core/drawing.h"
+#include "draw/drawing.h"
 
 namespace qb {
 

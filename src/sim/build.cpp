@@ -1,8 +1,8 @@
 // Building a block in front of the leader.
-#include "tools/build.h"
+#include "sim/build.h"
 
-#include "core/drawing.h"
-#include "tools/use_tool.h"
+#include "draw/drawing.h"
+#include "sim/spend_tool.h"
 
 namespace qb {
 

@@ -1,5 +1,5 @@
 // May a square be broken through (or passed by a running laser)?
-#include "tools/bash_safe.h"
+#include "sim/bash_safe.h"
 
 namespace qb {
 
