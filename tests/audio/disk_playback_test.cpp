@@ -169,7 +169,6 @@ TEST_F(DiskPlayback, TheFinalesClosingTuttiDoesNotClip) {
              static_cast<std::streamsize>(bytes.size()));
   const Level level = PlayToTheEnd(path);
   std::filesystem::remove(path);
-  std::printf("closing tutti: rms %.3f, peak %.3f\n", level.rms, level.peak);
   EXPECT_GT(level.rms, 0.05);
   EXPECT_LT(level.peak, 0.99);
   EXPECT_EQ(log_.str(), "");

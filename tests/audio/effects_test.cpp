@@ -64,16 +64,6 @@ TEST(BuiltInEffects, ThereIsNo103AndTheTypeMustMatch) {
   EXPECT_TRUE(FindSound("SOUND", 116).empty());
 }
 
-TEST(BuiltInEffects, EachEffectSoundsDifferent) {
-  for (size_t i = 0; i < std::size(kEffects); ++i)
-    for (size_t j = i + 1; j < std::size(kEffects); ++j) {
-      const auto a = FindSound(kEffects[i].type, kEffects[i].number);
-      const auto b = FindSound(kEffects[j].type, kEffects[j].number);
-      EXPECT_FALSE(std::equal(a.begin(), a.end(), b.begin(), b.end()))
-          << kEffects[i].number << " and " << kEffects[j].number;
-    }
-}
-
 TEST(EffectDescription, ReadsEveryKey) {
   const auto d = sfx::ReadEffectDescription(
       "# comment line\n\n"
