@@ -8,12 +8,15 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <thread>
 
 #include "audio/audio.h"
 #include "audio/sound_bank.h"
 #include "audio_env.h"
+#include "midi_file.h"
 #include "riff_wave.h"
+#include "score_reader.h"
 
 namespace qb {
 namespace {
@@ -67,6 +70,19 @@ class DiskPlayback : public ::testing::Test {
     return level;
   }
 
+  // Plays a MIDI file once through and measures all of it.
+  Level PlayToTheEnd(const std::string& path) {
+    audio_.SetMusicFileName(path);
+    audio_.SendMusicCommand(MusicCommand::Open);
+    const size_t from = Written();
+    audio_.SendMusicCommand(MusicCommand::Play);
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+    while (audio_.MusicMode() == kMusicModePlaying && std::chrono::steady_clock::now() < until)
+      std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    EXPECT_NE(audio_.MusicMode(), kMusicModePlaying) << path << " did not end";
+    return Measure(from, static_cast<double>(Written() - from) / kBytesPerSecond);
+  }
+
   test::AudioDriver driver_{"disk"};
   std::filesystem::path file_;
   std::ostringstream log_;
@@ -111,6 +127,51 @@ TEST_F(DiskPlayback, ANewEffectCutsOffTheOneStillPlaying) {
   const size_t cut = Written();
   const Level after = Measure(cut + kBytesPerSecond / 2 + 65536, 0.8);
   EXPECT_EQ(after.peak, 0.0);
+}
+
+// The last `seconds` of a piece: the notes that start there, moved to the start.
+music::Score LastSeconds(music::Score score, double seconds) {
+  const double from = score.SecondsAt(score.EndTick()) - seconds;
+  int cut = score.EndTick();
+  for (const auto& track : score.tracks)
+    for (const auto& n : track.notes)
+      if (score.SecondsAt(n.tick) >= from) cut = std::min(cut, n.tick);
+  std::vector<music::Tempo> tempos;
+  for (auto t : score.tempos) {
+    t.tick = std::max(0, t.tick - cut);
+    if (!tempos.empty() && t.tick == 0) tempos.clear();  // the tempo at the cut starts it
+    tempos.push_back(t);
+  }
+  score.tempos = tempos;
+  for (auto& track : score.tracks) {
+    std::erase_if(track.notes, [&](const music::Note& n) { return n.tick < cut; });
+    for (auto& n : track.notes) n.tick -= cut;
+    std::erase_if(track.programChanges, [&](const auto& p) { return p.tick < cut; });
+    for (auto& p : track.programChanges) p.tick -= cut;
+    track.endTick = std::max(0, track.endTick - cut);
+  }
+  return score;
+}
+
+// The closing tutti of the grand finale, the loudest passage of all the music, played as the
+// game plays it (cut from its source: a whole piece takes too long to render here) stays below
+// full scale.
+TEST_F(DiskPlayback, TheFinalesClosingTuttiDoesNotClip) {
+  std::ifstream in(std::string(QUORBIT_MUSIC_SOURCE_DIR) + "/dbyd8.notes");
+  std::stringstream text;
+  text << in.rdbuf();
+  const auto source = music::ReadScore(text.str());
+  ASSERT_TRUE(source.errors.empty());
+  const auto bytes = music::WriteMidiFile(LastSeconds(source.score, 24));
+  const auto path = file_.string() + ".mid";
+  std::ofstream(path, std::ios::binary)
+      .write(reinterpret_cast<const char*>(bytes.data()),
+             static_cast<std::streamsize>(bytes.size()));
+  const Level level = PlayToTheEnd(path);
+  std::filesystem::remove(path);
+  EXPECT_GT(level.rms, 0.05);
+  EXPECT_LT(level.peak, 0.99);
+  EXPECT_EQ(log_.str(), "");
 }
 
 class DiskMusic : public DiskPlayback, public ::testing::WithParamInterface<const char*> {};

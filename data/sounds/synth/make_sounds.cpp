@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
 
   std::map<std::pair<std::string, int>, std::vector<uint8_t>> wavs;
   std::ostringstream listing;
-  listing << "type   number  seconds  peak   rms\n";
+  listing << "type   number  seconds  peak   rms    rms dB\n";
   for (const auto& [key, voices] : effects) {
     const auto samples = qb::sfx::RenderEffect(voices);
     double peak = 0, sumSquares = 0;
@@ -71,11 +71,21 @@ int main(int argc, char** argv) {
       peak = std::max(peak, std::abs(s / 32768.0));
       sumSquares += (s / 32768.0) * (s / 32768.0);
     }
+    const double rms = std::sqrt(sumSquares / static_cast<double>(samples.size()));
     char line[96];
-    std::snprintf(line, sizeof line, "%-6s %6d  %7.3f  %5.3f  %5.3f\n", key.first.c_str(),
-                  key.second, static_cast<double>(samples.size()) / qb::sfx::kSampleRate, peak,
-                  std::sqrt(sumSquares / static_cast<double>(samples.size())));
+    std::snprintf(line, sizeof line, "%-6s %6d  %7.3f  %5.3f  %5.3f  %6.1f\n", key.first.c_str(),
+                  key.second, static_cast<double>(samples.size()) / qb::sfx::kSampleRate, peak, rms,
+                  20 * std::log10(rms));
     listing << line;
+    // More than 2 dB short of the others (half the spread they may have): the peak ceiling
+    // held it back.
+    if (rms < qb::sfx::kTargetRms * 0.79) {
+      char dB[16];
+      std::snprintf(dB, sizeof dB, "%.1f", 20 * std::log10(rms));
+      std::cerr << argv[1] << ": warning: effect " << key.first << ' ' << key.second
+                << " is quieter than the others (" << dB
+                << " dB RMS): soften its loudest moment or give it a fuller body\n";
+    }
     wavs[key] = qb::sfx::MakeWav(samples);
     const std::string wavPath =
         std::string(argv[3]) + "/" + key.first + "_" + std::to_string(key.second) + ".wav";

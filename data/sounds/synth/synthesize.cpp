@@ -88,9 +88,13 @@ std::vector<int16_t> RenderEffect(const std::vector<EffectVoice>& voices) {
   Noise noise;
   for (const auto& v : voices) AddVoice(v, mix, noise);
 
-  double peak = 0;
-  for (double s : mix) peak = std::max(peak, std::abs(s));
-  const double scale = peak > 0 ? kTargetPeak / peak : 0;
+  double peak = 0, squares = 0;
+  for (double s : mix) {
+    peak = std::max(peak, std::abs(s));
+    squares += s * s;
+  }
+  const double rms = total > 0 ? std::sqrt(squares / static_cast<double>(total)) : 0;
+  const double scale = peak > 0 ? std::min(kTargetRms / rms, kPeakCeiling / peak) : 0;
   std::vector<int16_t> samples(total);
   for (size_t i = 0; i < total; ++i)
     samples[i] = static_cast<int16_t>(std::lround(std::clamp(mix[i] * scale, -1.0, 1.0) * 32767));
