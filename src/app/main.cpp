@@ -11,10 +11,7 @@
 #include "ui/desktop/program_folder.h"
 #include "ui/desktop/qsettings_store.h"
 #include "ui/desktop/qt_host.h"
-
-#ifdef QUORBIT_HAVE_SCREENS
 #include "ui/screens/screens.h"
-#endif
 
 namespace {
 
@@ -61,9 +58,7 @@ int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
   QApplication::setOrganizationName("Quorbit2");
   QApplication::setApplicationName("Quorbit2");
-#ifdef QUORBIT_HAVE_SCREENS
   QApplication::setWindowIcon(qb::ui::AppIcon());
-#endif
 
   QCommandLineParser parser;
   parser.setApplicationDescription("Quorbit 2, the puzzle game.");

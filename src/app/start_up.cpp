@@ -4,24 +4,16 @@
 #include <ostream>
 
 #include "ui/desktop/qt_host.h"
-
-#ifdef QUORBIT_HAVE_SCREENS
 #include "ui/screens/screens.h"
-#endif
 
 namespace qb::app {
 
 StartUpSteps GameSteps() {
   StartUpSteps steps;
-#ifdef QUORBIT_HAVE_SCREENS
   steps.runSplash = [](const std::function<void()>& load) { ui::RunSplash(load); };
   steps.chooseLevel = ui::ShowChooseLevel;
   steps.instructions = ui::ShowInstructions;
   steps.about = ui::ShowAbout;
-#else
-  // Without the screens library there is no splash: the window loads at once.
-  steps.runSplash = [](const std::function<void()>& load) { load(); };
-#endif
   return steps;
 }
 

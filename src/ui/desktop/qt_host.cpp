@@ -4,53 +4,32 @@
 #include <QFile>
 #include <QMessageBox>
 
-#include "ui/desktop/desk_top.h"
-
-#ifdef QUORBIT_HAVE_SCREENS
-#include "ui/screens/screens.h"
-#endif
-#ifdef QUORBIT_HAVE_AUDIO
 #include "audio/audio.h"
-#else
-namespace qb {
-class Audio {};  // no sound library in this build: the game is silent
-}  // namespace qb
-#endif
+#include "ui/desktop/desk_top.h"
+#include "ui/screens/screens.h"
 
 namespace qb::ui {
 
-#ifdef QUORBIT_HAVE_AUDIO
 QtHost::QtHost() : audio_(std::make_unique<Audio>()) {
   if (!audio_->Open()) audio_.reset();  // no sound device: the game plays silently
 }
-#else
-QtHost::QtHost() = default;
-#endif
 
 QtHost::~QtHost() = default;
 
-void QtHost::PlaySound([[maybe_unused]] std::string_view type, [[maybe_unused]] int number) {
-#ifdef QUORBIT_HAVE_AUDIO
+void QtHost::PlaySound(std::string_view type, int number) {
   if (audio_) audio_->PlayEffect(type, number);
-#endif
 }
 
-void QtHost::SetMusicFileName([[maybe_unused]] const std::string& path) {
-#ifdef QUORBIT_HAVE_AUDIO
+void QtHost::SetMusicFileName(const std::string& path) {
   if (audio_) audio_->SetMusicFileName(path);
-#endif
 }
 
-void QtHost::SendMusicCommand([[maybe_unused]] MusicCommand command) {
-#ifdef QUORBIT_HAVE_AUDIO
+void QtHost::SendMusicCommand(MusicCommand command) {
   if (audio_) audio_->SendMusicCommand(command);
-#endif
 }
 
 int QtHost::MusicMode() {
-#ifdef QUORBIT_HAVE_AUDIO
   if (audio_) return audio_->MusicMode();
-#endif
   return 0;
 }
 
@@ -61,9 +40,7 @@ void QtHost::ShowScreen(Screen screen, const ScreenTexts& texts) {
   if (screenShower_) {
     screenShower_(screen, texts);
   } else {
-#ifdef QUORBIT_HAVE_SCREENS
     qb::ui::ShowScreen(window_, screen, texts);
-#endif
   }
   if (window_) window_->LeaveModal();
 }

@@ -3,9 +3,7 @@
 
 #include <QPainter>
 
-#ifdef QUORBIT_HAVE_SCREENS
 #include "ui/screens/screens.h"
-#endif
 
 namespace qb::ui {
 
@@ -16,14 +14,12 @@ QString ToolName(int tool) {
 }
 
 QPixmap ToolPixmap(int tool, int sizePx, double devicePixelRatio) {
-#ifdef QUORBIT_HAVE_SCREENS
   QPixmap art = ToolIcon(tool, static_cast<int>(sizePx * devicePixelRatio));
   if (!art.isNull()) {
     art.setDevicePixelRatio(devicePixelRatio);
     return art;
   }
-#endif
-  // Without the art library: the tool's initial on a plain tile.
+  // When the picture cannot be drawn: the tool's initial on a plain tile.
   const int side = static_cast<int>(sizePx * devicePixelRatio);
   QPixmap tile(side, side);
   tile.fill(Qt::transparent);
