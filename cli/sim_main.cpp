@@ -9,8 +9,8 @@
 namespace {
 
 int Usage() {
-  std::cerr << "usage: quorbit-sim LEVEL.lvl [--replay FILE] [--max-cycles N] [--trace]"
-               " [--record FILE]\n";
+  std::cerr << "usage: quorbit-sim LEVEL.lvl [--replay FILE] [--max-cycles N]"
+               " [--trace | --trace-view] [--record FILE]\n";
   return 2;
 }
 
@@ -24,6 +24,8 @@ int main(int argc, char** argv) {
     const auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
     if (a == "--trace") {
       options.trace = true;
+    } else if (a == "--trace-view") {
+      options.traceView = true;
     } else if (a == "--replay") {
       const char* path = value();
       if (!path) return Usage();
@@ -57,6 +59,10 @@ int main(int argc, char** argv) {
     }
   }
   if (options.level.empty()) return Usage();
+  if (options.trace && options.traceView) {
+    std::cerr << "--trace and --trace-view cannot be used together\n";
+    return Usage();
+  }
   std::ios::sync_with_stdio(false);
   const qb::SimOutcome outcome = qb::RunSimulation(options, std::cout, std::cerr);
   std::cout.flush();

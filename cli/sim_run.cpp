@@ -8,6 +8,7 @@
 #include "level/loader.h"
 #include "play/cycle.h"
 #include "play/replay.h"
+#include "view_trace.h"
 
 namespace qb {
 namespace {
@@ -80,6 +81,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.ui.OptionsChecked(OptReplay) = true;
   g.ui.OptionsChecked(OptFastScrolling) = false;
   g.ui.OptionsChecked(OptMusic) = false;
+  g.ui.OptionsChecked(OptShowChange) = false;  // the view never moves, so view traces compare
   g.SkipTitle = True;
   g.LevelFile = options.level;
   if (const LoadOutcome load = LoadLevel(g, options.level); !load.Loaded()) {
@@ -94,6 +96,8 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   // The run stops where the level ends, with the game as the end left it: what would follow
   // (the result screen, the next load) is the window's business.
   std::vector<int16_t> previous = UsedArea(g);
+  ViewTrace view;
+  if (options.traceView) view.Line(out, -1, g);
   long cycles = 0;
   LevelEnd end = LevelEnd::None;
   try {
@@ -102,6 +106,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
       end = RunCycle(g);
       ++cycles;
       if (options.trace) TraceLine(out, cycles - 1, g, previous);
+      if (options.traceView) view.Line(out, cycles - 1, g);
       const std::string& done = g.ReplayLog(tick);
       if (!done.empty() && done != "E")
         outcome.recording += std::to_string(tick) + " " + done + "\n";

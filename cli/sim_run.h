@@ -12,7 +12,8 @@ struct SimOptions {
   std::string level;
   std::optional<std::string> replay;  // replay file text
   long maxCycles = 100000;
-  bool trace = false;
+  bool trace = false;      // the rules' state after every cycle
+  bool traceView = false;  // what the player sees after every cycle
 };
 
 struct SimOutcome {

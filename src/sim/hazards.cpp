@@ -34,18 +34,19 @@ LevelEnd CheckTraps(Game& g) {
 }
 
 namespace {
-// The jaw squares of trap stages 1 to 5 as (dx, dy) from the character: they start two columns
-// out on rows y-1 and y and close in, the upper jaw first, until they cover the character.
+// The jaw squares of trap stages 1 to 5 as (dx, dy) from the character, in painting order (left
+// jaw, then right): they start two columns out on rows y-1 and y and close in, the upper jaw
+// first, until they cover the character.
 struct Jaw {
   int dx, dy;
 };
 constexpr Jaw kJaws[6][4] = {
     {},
-    {{-2, -1}, {2, -1}, {-2, 0}, {2, 0}},
-    {{-1, -1}, {1, -1}, {-2, 0}, {2, 0}},
-    {{-1, -1}, {1, -1}, {-1, 0}, {1, 0}},
-    {{0, -1}, {0, -1}, {-1, 0}, {1, 0}},
-    {{0, -1}, {0, -1}, {0, 0}, {0, 0}},
+    {{-2, -1}, {-2, 0}, {2, -1}, {2, 0}},
+    {{-1, -1}, {-2, 0}, {1, -1}, {2, 0}},
+    {{-1, -1}, {-1, 0}, {1, -1}, {1, 0}},
+    {{0, -1}, {-1, 0}, {0, -1}, {1, 0}},
+    {{0, -1}, {0, 0}, {0, -1}, {0, 0}},
 };
 
 void PaintJaws(Game& g, int x, int y, int stage, bool paint) {

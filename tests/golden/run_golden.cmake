@@ -1,28 +1,38 @@
 # Compiles a golden case's level, runs quorbit-sim on it with its replay and compares the trace
-# with the expected one line by line; on a mismatch the actual trace stays in WORK.
+# (the rules' or the view's) with the expected one line by line; on a mismatch the actual trace
+# stays in WORK.
 file(MAKE_DIRECTORY ${WORK})
 execute_process(COMMAND ${LEVEL_TOOL} compile ${CASE}/level.txt -o ${WORK}/level.lvl
                 RESULT_VARIABLE compiled)
 if(NOT compiled EQUAL 0)
   message(FATAL_ERROR "cannot compile ${CASE}/level.txt")
 endif()
-execute_process(COMMAND ${SIM} ${WORK}/level.lvl --trace --replay ${CASE}/replay
-                OUTPUT_FILE ${WORK}/actual.trace RESULT_VARIABLE status)
+# A case with expected.view compares what the player sees (--trace-view), otherwise the rules.
+if(EXISTS ${CASE}/expected.view)
+  set(mode view)
+  set(option --trace-view)
+else()
+  set(mode trace)
+  set(option --trace)
+endif()
+set(actual_file ${WORK}/actual.${mode})
+execute_process(COMMAND ${SIM} ${WORK}/level.lvl ${option} --replay ${CASE}/replay
+                OUTPUT_FILE ${actual_file} RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
   message(FATAL_ERROR "quorbit-sim exited with ${status}")
 endif()
-file(STRINGS ${CASE}/expected.trace expected)
-file(STRINGS ${WORK}/actual.trace actual)
+file(STRINGS ${CASE}/expected.${mode} expected)
+file(STRINGS ${actual_file} actual)
 list(LENGTH expected expected_count)
 list(LENGTH actual actual_count)
 if(NOT expected_count EQUAL actual_count)
-  message(FATAL_ERROR "${actual_count} lines instead of ${expected_count}; see ${WORK}/actual.trace")
+  message(FATAL_ERROR "${actual_count} lines instead of ${expected_count}; see ${actual_file}")
 endif()
 math(EXPR last "${expected_count} - 1")
 foreach(i RANGE ${last})
   list(GET expected ${i} e)
   list(GET actual ${i} a)
   if(NOT e STREQUAL a)
-    message(FATAL_ERROR "line ${i} differs; see ${WORK}/actual.trace\nexpected: ${e}\nactual:   ${a}")
+    message(FATAL_ERROR "line ${i} differs; see ${actual_file}\nexpected: ${e}\nactual:   ${a}")
   endif()
 endforeach()

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 #include "core/level_file.h"
@@ -146,6 +147,89 @@ TEST_F(SimProcess, EveryToolShowsInTheTraceInTheCycleItIsUsed) {
   EXPECT_NE(r.lines[9].find("\"changed\":[["), std::string::npos) << r.lines[9];  // the block
   EXPECT_NE(r.lines[14].find(",3]]"), std::string::npos) << r.lines[14];          // a built block
   EXPECT_NE(r.lines[18].find("\"leader\":1"), std::string::npos) << r.lines[18];  // the change
+}
+
+// The squares of a view line, "c,r" -> "colour,face".
+std::map<std::string, std::string> ViewSquares(const std::string& line) {
+  std::map<std::string, std::string> squares;
+  const auto from = line.find("\"squares\":[") + 11, to = line.find("],\"dots\"");
+  std::istringstream in(line.substr(from, to - from));
+  long c, r, colour, face;
+  char ch;
+  while (in >> ch >> c >> ch >> r >> ch >> colour >> ch >> face >> ch) {
+    squares[std::to_string(c) + "," + std::to_string(r)] =
+        std::to_string(colour) + "," + std::to_string(face);
+    in >> ch;
+  }
+  return squares;
+}
+
+TEST_F(SimProcess, TheViewTraceShowsEveryAnimationAsTheDrawingRulesPaintIt) {
+  SimRun r = Sim(WriteLevelFile("every.lvl", test::EveryAnimation()).string() +
+                 " --trace-view --replay " + Write("every.replay", "2 C\n18 L\n46 X\n").string());
+  ASSERT_EQ(r.status, 0) << r.out;
+  ASSERT_EQ(r.lines.size(), 60u);  // the set-up, 58 cycles, the result
+  EXPECT_EQ(r.lines.back(),
+            "{\"result\":\"won\",\"cycles\":58,\"saved\":1,\"needed\":1,\"total\":6}");
+  auto at = [](unsigned colour, int face) {
+    return std::to_string(colour) + "," + std::to_string(face);
+  };
+  const std::string white = at(0xFFFFFF, 0), yellow = at(0x00FFFF, 0), jaw = at(0xC0C0FF, 0),
+                    crowd = at(0xA25C53, 1), green = at(0x00FF00, 0), unchanged;
+  struct Seen {
+    int t;
+    const char* square;
+    std::string picture;  // empty: not listed, the square looks as before
+  };
+  const Seen seen[] = {
+      {-1, "5,9", at(0xFF0000, 0)},
+      {-1, "6,24", at(0x000040, 0)},  // water, a teleport
+      {-1, "1,4", unchanged},         // nobody is out yet
+      {8, "5,8", at(0xFF0000, 0)},
+      {8, "5,7", at(0xFF0000, 0)},  // splash in water
+      {10, "5,12", at(0x0000FF, 0)},
+      {10, "5,11", at(0x0000FF, 0)},  // and in lava
+      {10, "9,3", at(0, 2)},
+      {10, "9,4", white},  // the leader climbs
+      {12, "5,16", yellow},
+      {13, "5,16", crowd},  // a shock's flashes
+      {14, "4,19", jaw},
+      {14, "8,20", jaw},  // a trap's jaws, stage 1
+      {14, "6,20", crowd},
+      {15, "4,19", white},  // then stage 2
+      {15, "5,19", jaw},
+      {15, "4,20", unchanged},  // repainted, painted again
+      {18, "6,20", jaw},
+      {19, "6,20", white},  // they close, and open
+      {16, "6,24", green},
+      {17, "6,24", at(0x000040, 0)},  // a teleport's passage
+      {18, "30,18", green},
+      {19, "30,18", at(0x000040, 0)},
+      {19, "30,19", crowd},  // walks out, falls
+      {18, "15,4", yellow},
+      {18, "16,4", yellow},  // the laser's beam
+      {27, "15,4", white},
+      {28, "23,4", jaw},  // its explosion at the tip
+      {39, "29,37", at(0xA25C53, 0)},
+      {39, "30,38", white},  // the fall to death
+      {40, "29,37", white},
+      {40, "31,38", at(0xA25C53, 0)},
+      {46, "31,4", yellow},
+      {46, "32,5", jaw},  // the bomb: centre, ring
+  };
+  for (const Seen& s : seen) {
+    const auto squares = ViewSquares(r.lines.at(static_cast<std::size_t>(s.t + 1)));
+    const auto it = squares.find(s.square);
+    EXPECT_EQ(it == squares.end() ? unchanged : it->second, s.picture)
+        << "cycle " << s.t << ", square " << s.square;
+  }
+  EXPECT_NE(r.lines[0].find("[5,13,255]"), std::string::npos);  // the lava's dot on the map
+  // The leader walks into the door: the end clears the view and leaves the map as it was.
+  const std::string& end = r.lines[58];
+  const auto cleared = ViewSquares(end);
+  EXPECT_GT(cleared.size(), 150u);
+  for (const auto& [square, picture] : cleared) EXPECT_EQ(picture, white) << square;
+  EXPECT_EQ(end.substr(end.find("\"dots\"")), "\"dots\":[[38,4,16777215]]}");
 }
 
 TEST_F(SimProcess, ReplayingARecordingGivesTheSameTrace) {

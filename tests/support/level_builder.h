@@ -21,6 +21,12 @@ char CharOf(int kind);
 LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int total = 1,
                     int needed = 1, int releaseInterval = 1, int time = 500);
 
+// A 40 by 40 level of six lanes, one character each. The leader climbs a wall, fires the laser
+// and sets off a bomb (replay "2 C", "18 L", "46 X") before he reaches the door in cycle 57; the
+// crowd meets water, lava, an electric wall, a trap, and a teleport that drops its character to
+// its death.
+LevelData EveryAnimation();
+
 // A game with a recorder host, "&Sound" and "&Replay Levels" on, with `level` loaded as
 // "test.lvl" (no title card).
 struct TestGame {
