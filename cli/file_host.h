@@ -13,6 +13,7 @@ class FileHost : public Host {
   // Called for every modal screen and message; the game goes on when it returns.
   std::function<void(Screen)> onScreen;
   std::function<void(const std::string&)> onMessage;
+  std::function<void(const std::string&)> onNote;
   bool filesOpen = true;  // when false, every file reads as missing
 
   void PlaySound(std::string_view, int) override {}
@@ -25,10 +26,10 @@ class FileHost : public Host {
   void SetMusicFileName(const std::string&) override {}
   void SendMusicCommand(MusicCommand) override {}
   int MusicMode() override { return 0; }
-  std::optional<std::vector<uint8_t>> ReadFile(const std::string& path) override;
+  FileRead ReadFile(const std::string& path) override;
+  void Note(const std::string& text) override {
+    if (onNote) onNote(text);
+  }
 };
-
-// The whole content of a file, or nothing.
-std::optional<std::vector<uint8_t>> ReadBytes(const std::string& path);
 
 }  // namespace qb

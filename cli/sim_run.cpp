@@ -76,6 +76,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   FileHost host;
   std::string loadMessage;
   host.onMessage = [&](const std::string& text) { loadMessage = text; };
+  host.onNote = [&](const std::string& text) { err << text << "\n"; };
   auto game = std::make_unique<Game>(host);
   Game& g = *game;
   g.ui.OptionsChecked(OptSound) = false;
@@ -103,6 +104,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
     }
   };
   host.onMessage = [](const std::string&) {};
+  host.onNote = nullptr;
 
   std::vector<int16_t> previous = UsedArea(g);
   long cycles = 0;

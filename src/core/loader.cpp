@@ -42,8 +42,8 @@ void ApplyLevel(Game& g, const LevelData& d) {
 
 LoadResult LoadLevel(Game& g, const std::string& fileName) {
   const int32_t keptSkill = g.CurrentSkill;
-  const auto bytes = g.host->ReadFile(fileName);
-  const LevelRead read = ReadLevel(bytes ? *bytes : std::vector<uint8_t>{});
+  const FileRead file = g.host->ReadFile(fileName);
+  const LevelRead read = ReadLevel(file.bytes ? *file.bytes : std::vector<uint8_t>{});
   if (read.status == ReadStatus::Unsupported) {
     g.host->ShowMessage("The level file " + fileName + " cannot be played: " + read.problem + ".",
                         "Quorbit");
@@ -54,6 +54,7 @@ LoadResult LoadLevel(Game& g, const std::string& fileName) {
     g.LevelName = read.data.Title;
     g.LevelNumber = read.data.Number;
     g.CurrentSkill = keptSkill;
+    g.host->Note("no level in " + fileName + ": " + (file.bytes ? read.problem : file.error));
     g.host->ShowMessage("This level does not exist!", "Quorbit");
     return LoadResult::Missing;
   }
