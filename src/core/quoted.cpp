@@ -6,10 +6,10 @@
 namespace qb {
 
 std::string Quoted(std::string_view s) {
-  constexpr std::size_t kLongest = 60;
+  constexpr std::size_t kLongest = 60;  // characters shown, an escaped byte counting as four
   std::string out = "\"";
   for (std::size_t i = 0; i < s.size(); ++i) {
-    if (i == kLongest) return out + "...\"";
+    if (out.size() > kLongest) return out + "...\"";
     const auto c = static_cast<unsigned char>(s[i]);
     if (c < 0x20 || c == 0x7F) {
       char hex[8];

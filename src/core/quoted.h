@@ -7,7 +7,7 @@
 namespace qb {
 
 // The text between double quotes, control bytes written as \xNN (so an escape sequence cannot
-// recolour the terminal and a line feed cannot split a message), cut after 60 bytes.
+// recolour the terminal and a line feed cannot split a message), cut after about 60 characters.
 std::string Quoted(std::string_view s);
 
 }  // namespace qb
