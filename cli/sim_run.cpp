@@ -74,9 +74,9 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
     }
   }
   FileHost host;
-  std::string loadMessage;
+  std::string loadMessage, loadNote;
   host.onMessage = [&](const std::string& text) { loadMessage = text; };
-  host.onNote = [&](const std::string& text) { err << text << "\n"; };
+  host.onNote = [&](const std::string& text) { loadNote = text; };
   auto game = std::make_unique<Game>(host);
   Game& g = *game;
   g.ui.OptionsChecked(OptSound) = false;
@@ -87,6 +87,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.LevelFile = options.level;
   if (LoadLevel(g, options.level) != LoadResult::Loaded) {
     err << loadMessage << "\n";
+    if (!loadNote.empty()) err << loadNote << "\n";  // which file, and why it did not count
     outcome.exitStatus = 2;
     return outcome;
   }
