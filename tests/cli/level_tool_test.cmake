@@ -120,16 +120,18 @@ elseif(SCENARIO STREQUAL "damaged_levels")
   expect_in("${out}" "kind40.lvl: error")
 
 elseif(SCENARIO STREQUAL "hostile_files")
-  # A folder, a device and a pipe with no writer where a file is expected: one line each, the
-  # other files still checked, and no tool aborts or waits.
+  # A folder, a device, a pipe with no writer and a huge file where a level is expected: one line
+  # each, the other files still checked, and no tool aborts, waits or fills the memory.
   run(0 out ${TOOL} compile ${LEVEL} -o ${lvl})
   file(MAKE_DIRECTORY ${WORK}/folder.lvl)
   run(0 out mkfifo ${WORK}/pipe.lvl)
-  run(1 out ${TOOL} check ${lvl} ${WORK}/folder.lvl /dev/zero ${WORK}/pipe.lvl ${lvl})
+  run(0 out truncate -s 200M ${WORK}/huge.lvl)
+  run(1 out ${TOOL} check ${lvl} ${WORK}/folder.lvl /dev/zero ${WORK}/pipe.lvl ${WORK}/huge.lvl ${lvl})
   expect_in("${out}" "folder.lvl: error: cannot read the file: it is a folder, not a file")
   expect_in("${out}" "/dev/zero: error: cannot read the file: it is not a regular file")
   expect_in("${out}" "pipe.lvl: error: cannot read the file: it is not a regular file")
-  expect_in("${out}" "2 of 5 levels are fine")
+  expect_in("${out}" "huge.lvl: error: cannot read the file: it is larger than")
+  expect_in("${out}" "2 of 6 levels are fine")
   foreach(command decompile compile table)
     run(1 out ${TOOL} ${command} ${WORK}/folder.lvl)
     expect_in("${out}" "it is a folder")
