@@ -15,10 +15,7 @@ class FileHost : public Host {
   void SetMusicFileName(const std::string&) override {}
   void SendMusicCommand(MusicCommand) override {}
   int MusicMode() override { return 0; }
-  std::optional<std::vector<uint8_t>> ReadFile(const std::string& path) override;
+  FileRead ReadFile(const std::string& path) override;
 };
-
-// The whole content of a file, or nothing.
-std::optional<std::vector<uint8_t>> ReadBytes(const std::string& path);
 
 }  // namespace qb

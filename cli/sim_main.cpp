@@ -3,7 +3,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "file_host.h"
+#include "core/file_read.h"
 #include "sim_run.h"
 
 namespace {
@@ -29,12 +29,12 @@ int main(int argc, char** argv) {
     } else if (a == "--replay") {
       const char* path = value();
       if (!path) return Usage();
-      const auto bytes = qb::ReadBytes(path);
-      if (!bytes) {
-        std::cerr << "cannot read the replay file " << path << "\n";
+      const qb::FileRead read = qb::ReadSmallFile(path, qb::kMaxTextFileBytes);
+      if (!read.bytes) {
+        std::cerr << "cannot read the replay file " << path << ": " << read.error << "\n";
         return 2;
       }
-      options.replay = std::string(bytes->begin(), bytes->end());
+      options.replay = std::string(read.bytes->begin(), read.bytes->end());
     } else if (a == "--max-cycles") {
       const char* n = value();
       if (!n) return Usage();

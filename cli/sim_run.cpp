@@ -86,6 +86,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.LevelFile = options.level;
   if (const LoadOutcome load = LoadLevel(g, options.level); !load.Loaded()) {
     err << load.message << "\n";
+    if (!load.detail.empty()) err << load.detail << "\n";  // which file, and why it did not count
     outcome.exitStatus = 2;
     return outcome;
   }

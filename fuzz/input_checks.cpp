@@ -101,9 +101,11 @@ std::string CheckLoadOverRunningGame(const std::vector<uint8_t>& bytes) {
   static QuietHost host;
   const Game& running = RunningGame(host);
   host.file = bytes;
+  host.badMessage.clear();
   Game g = running;
   try {
     const LoadResult result = LoadLevel(g, "input.lvl").result;
+    if (!host.badMessage.empty()) return host.badMessage;
     if (result == LoadResult::Loaded) return "";
     Game expected = running;
     if (result == LoadResult::Missing) {
@@ -151,9 +153,10 @@ SettingsSeen Seen(const Game& g) {
 std::string CheckLevelFile(const std::vector<uint8_t>& bytes) {
   if (std::string problem = CheckLoadOverRunningGame(bytes); !problem.empty()) return problem;
   const LevelRead read = ReadLevel(bytes);
-  if (read.status == ReadStatus::Unsupported)
-    return read.problem.empty() ? "a refused level without a reason" : "";
-  if (read.status == ReadStatus::Missing) return "";
+  if (read.status != ReadStatus::Ok) {
+    const std::string problem = MessageProblem(read.problem);
+    return problem.empty() ? "" : "the reason a level is refused: " + problem;
+  }
   const LevelRead again = ReadLevel(WriteLevel(read.data));
   if (again.status != ReadStatus::Ok || !again.shortAt.empty())
     return "the written level does not read back whole: " + again.problem + again.shortAt;
@@ -180,7 +183,7 @@ std::string CheckLevelText(std::string_view text) {
   using namespace leveltext;
   const ParsedLevel first = ParseLevelText(text);
   for (const Diagnostic& d : first.diagnostics)
-    if (d.message.empty()) return "a diagnostic without a message";
+    if (std::string problem = MessageProblem(d.message); !problem.empty()) return problem;
   if (!first.ok()) return "";
   const std::string printed = PrintLevelText(first.data);
   const ParsedLevel second = ParseLevelText(printed);
@@ -201,8 +204,10 @@ std::string CheckReplay(const std::string& text) {
   const ReplayFile parsed = ParseReplay(text);
   if (parsed.slots.size() != static_cast<std::size_t>(kReplaySlots))
     return "the replay does not have one slot a cycle";
-  if (!parsed.error.empty())
-    return parsed.error.rfind("line ", 0) == 0 ? "" : "an error without a line";
+  if (!parsed.error.empty()) {
+    if (parsed.error.rfind("line ", 0) != 0) return "an error without a line";
+    return MessageProblem(parsed.error);
+  }
   QuietHost host;
   Game g{host};
   for (int t = 0; t < kReplaySlots; ++t) {
@@ -244,7 +249,7 @@ std::string CheckSettings(const std::string& input) {
   Game g{host};
   const auto notes = LoadSettings(g, store);
   for (const std::string& n : notes)
-    if (n.empty()) return "an empty note";
+    if (std::string problem = MessageProblem(n); !problem.empty()) return problem;
   for (int t = 0; t < 4; ++t)
     if (g.HighestLevel(t) < 1 || g.HighestLevel(t) > 20)
       return "highest level " + std::to_string(g.HighestLevel(t)) + " of tier " +

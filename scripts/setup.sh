@@ -4,7 +4,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config clang-format
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev
-  libsdl2-dev libsdl2-mixer-dev fluid-soundfont-gm
+  libsdl2-dev libsdl2-mixer-dev libfluidsynth-dev fluid-soundfont-gm
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth x11-apps imagemagick sox librsvg2-bin dpkg-dev fakeroot
   clang libclang-rt-14-dev

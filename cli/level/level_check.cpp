@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "level_ranges.h"
+
 namespace qb::leveltext {
 namespace {
 
@@ -42,12 +44,7 @@ CheckResult CheckLevelBytes(const std::vector<uint8_t>& bytes) {
   const LevelRead read = ReadLevel(bytes);
   switch (read.status) {
     case ReadStatus::Missing:
-      r.diagnostics.push_back(
-          {0, false,
-           std::string("This level does not exist!") +
-               (bytes.empty()          ? " (the file is empty)"
-                : read.shortAt.empty() ? " (its level number is 0)"
-                                       : " (the file ends in the " + read.shortAt + ")")});
+      r.diagnostics.push_back({0, false, "This level does not exist! (" + read.problem + ")"});
       return r;
     case ReadStatus::Unsupported:
       r.diagnostics.push_back({0, false, "the game cannot play it: " + read.problem});
@@ -61,6 +58,8 @@ CheckResult CheckLevelBytes(const std::vector<uint8_t>& bytes) {
     r.diagnostics.push_back({0, false,
                              "cut short: the file ends in the " + read.shortAt +
                                  " (the game plays it with the rest as 0 or Empty)"});
+  // The game plays such values, but the text form cannot hold them: a level made by hand.
+  for (std::string& s : RangeProblems(r.data)) r.diagnostics.push_back({0, true, std::move(s)});
   AddSanity(r, true);
   return r;
 }

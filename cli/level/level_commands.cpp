@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <ostream>
 
+#include "core/file_read.h"
 #include "level_check.h"
 #include "level_files.h"
 #include "level_table.h"
@@ -40,6 +41,15 @@ std::string AsText(const std::vector<uint8_t>& bytes) {
   return {bytes.begin(), bytes.end()};
 }
 
+// A level text or a level file, each refused above the largest size it can have.
+FileRead ReadInput(const std::string& path, bool text) {
+  return ReadSmallFile(path, text ? kMaxTextFileBytes : kMaxLevelFileBytes);
+}
+
+std::string CannotRead(const std::string& path, const FileRead& read) {
+  return path + ": error: cannot read the file: " + read.error;
+}
+
 }  // namespace
 
 int Compile(std::vector<std::string> args, std::ostream& out, std::ostream& err) {
@@ -51,12 +61,12 @@ int Compile(std::vector<std::string> args, std::ostream& out, std::ostream& err)
   const std::string& input = args[0];
   if (output.empty())
     output = std::filesystem::path(input).filename().replace_extension(".lvl").string();
-  const auto bytes = ReadWholeFile(input);
-  if (!bytes) {
-    err << input << ": error: cannot read the file\n";
+  const FileRead read = ReadInput(input, true);
+  if (!read.bytes) {
+    err << CannotRead(input, read) << "\n";
     return 1;
   }
-  const ParsedLevel parsed = ParseLevelText(AsText(*bytes));
+  const ParsedLevel parsed = ParseLevelText(AsText(*read.bytes));
   for (const Diagnostic& d : parsed.diagnostics) err << FormatDiagnostic(input, d) << "\n";
   if (!parsed.ok()) {
     err << input << ": not compiled, " << output << " is left as it was\n";
@@ -80,14 +90,14 @@ int Decompile(std::vector<std::string> args, std::ostream& out, std::ostream& er
     return 2;
   }
   const std::string& input = args[0];
-  const auto bytes = ReadWholeFile(input);
-  if (!bytes) {
-    err << input << ": error: cannot read the file\n";
+  const FileRead file = ReadInput(input, false);
+  if (!file.bytes) {
+    err << CannotRead(input, file) << "\n";
     return 1;
   }
-  const LevelRead read = ReadLevel(*bytes);
+  const LevelRead read = ReadLevel(*file.bytes);
   if (read.status == ReadStatus::Missing) {
-    err << input << ": error: This level does not exist!\n";
+    err << input << ": error: This level does not exist! (" << read.problem << ")\n";
     return 1;
   }
   if (read.status == ReadStatus::Unsupported) {
@@ -129,13 +139,14 @@ int Check(const std::vector<std::string>& files, std::ostream& out) {
   }
   int failed = 0;
   for (const std::string& file : files) {
-    const auto bytes = ReadWholeFile(file);
-    if (!bytes) {
-      out << file << ": error: cannot read the file\n";
+    const FileRead read = ReadInput(file, IsText(file));
+    if (!read.bytes) {
+      out << CannotRead(file, read) << "\n";
       ++failed;
       continue;
     }
-    const CheckResult r = IsText(file) ? CheckLevelText(AsText(*bytes)) : CheckLevelBytes(*bytes);
+    const std::vector<uint8_t>& bytes = *read.bytes;
+    const CheckResult r = IsText(file) ? CheckLevelText(AsText(bytes)) : CheckLevelBytes(bytes);
     for (const Diagnostic& d : r.diagnostics) out << FormatDiagnostic(file, d) << "\n";
     if (r.diagnostics.empty()) {
       out << file << ": ok\n";
@@ -157,13 +168,14 @@ int Table(const std::vector<std::string>& files, std::ostream& out, std::ostream
   std::vector<LevelData> levels;
   int status = 0;
   for (const std::string& file : files) {
-    const auto bytes = ReadWholeFile(file);
-    if (!bytes) {
-      err << file << ": error: cannot read the file\n";
+    const FileRead read = ReadInput(file, IsText(file));
+    if (!read.bytes) {
+      err << CannotRead(file, read) << "\n";
       status = 1;
       continue;
     }
-    CheckResult r = IsText(file) ? CheckLevelText(AsText(*bytes)) : CheckLevelBytes(*bytes);
+    const std::vector<uint8_t>& bytes = *read.bytes;
+    CheckResult r = IsText(file) ? CheckLevelText(AsText(bytes)) : CheckLevelBytes(bytes);
     if (!r.loaded) {
       for (const Diagnostic& d : r.diagnostics)
         if (!d.warning) err << FormatDiagnostic(file, d) << "\n";

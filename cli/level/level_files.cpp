@@ -1,4 +1,4 @@
-// Reading whole files and writing them so that a failed write leaves nothing behind.
+// Writing files so that a failed write leaves nothing behind.
 #include "level_files.h"
 
 #include <unistd.h>
@@ -7,18 +7,8 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
-#include <iterator>
 
 namespace qb::leveltext {
-
-std::optional<std::vector<uint8_t>> ReadWholeFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return std::nullopt;
-  std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(in)),
-                             std::istreambuf_iterator<char>());
-  if (in.bad()) return std::nullopt;
-  return bytes;
-}
 
 bool WriteFileAtomically(const std::string& path, const std::vector<uint8_t>& bytes,
                          std::string& error) {

@@ -5,7 +5,9 @@
 #include <map>
 #include <optional>
 
+#include "core/quoted.h"
 #include "level_legend.h"
+#include "level_ranges.h"
 #include "level_text.h"
 
 namespace qb::leveltext {
@@ -40,24 +42,6 @@ std::vector<std::string_view> Words(std::string_view s) {
   return out;
 }
 
-// Quotes text from the file for a message: control bytes are written as \xNN so that they cannot
-// act on the terminal, and a long text is cut.
-std::string Quoted(std::string_view s) {
-  std::string out = "\"";
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    if (i == 60) return out + "...\"";
-    const auto c = static_cast<unsigned char>(s[i]);
-    if (c < 0x20 || c == 0x7F) {
-      char hex[8];
-      std::snprintf(hex, sizeof hex, "\\x%02X", c);
-      out += hex;
-    } else {
-      out += s[i];
-    }
-  }
-  return out + "\"";
-}
-
 class Parser {
  public:
   ParsedLevel Run(std::string_view text);
@@ -71,7 +55,7 @@ class Parser {
   }
 
   std::optional<long long> Number(int line, std::string_view what, std::string_view text,
-                                  long long lo, long long hi);
+                                  ValueRange range);
   void HeaderLine(int line, std::string_view raw);
   void Title(int line, std::string_view raw, std::size_t valueStart);
   void NotLatin1(int line, unsigned code);
@@ -92,7 +76,7 @@ class Parser {
 };
 
 std::optional<long long> Parser::Number(int line, std::string_view what, std::string_view text,
-                                        long long lo, long long hi) {
+                                        ValueRange range) {
   long long v = 0;
   const char* first = text.data();
   const char* last = text.data() + text.size();
@@ -102,9 +86,8 @@ std::optional<long long> Parser::Number(int line, std::string_view what, std::st
     Error(line, std::string(what) + ": " + Quoted(text) + " is not a whole number");
     return std::nullopt;
   }
-  if (ec == std::errc::result_out_of_range || v < lo || v > hi) {
-    Error(line, std::string(what) + " " + std::string(text) + " is not " + std::to_string(lo) +
-                    " to " + std::to_string(hi));
+  if (ec == std::errc::result_out_of_range || !range.Holds(v)) {
+    Error(line, OutOfRange(what, text, range));
     return std::nullopt;
   }
   return v;
@@ -192,14 +175,15 @@ void Parser::Tools(int line, std::string_view value) {
     }
     if (given[*tool]) Error(line, "tools: " + std::string(name) + " is given twice");
     given[*tool] = true;
-    if (const auto n = Number(line, "tools: " + std::string(name), word.substr(eq + 1), 0, 32767))
+    if (const auto n =
+            Number(line, "tools: " + std::string(name), word.substr(eq + 1), kCountRange))
       d_.ToolStock[static_cast<std::size_t>(*tool)] = static_cast<int16_t>(*n);
   }
 }
 
 void Parser::Slot(int line, std::string_view kind, std::string_view slotText,
                   std::string_view value) {
-  const auto slot = Number(line, std::string(kind) + " slot", slotText, 0, 5);
+  const auto slot = Number(line, std::string(kind) + " slot", slotText, kSlotRange);
   if (!slot) return;
   const std::string key = std::string(kind) + " " + std::to_string(*slot);
   if (seen_.count(key))
@@ -212,8 +196,8 @@ void Parser::Slot(int line, std::string_view kind, std::string_view slotText,
   } else if (words.size() != 2) {
     return Error(line, key + ": expected a column and a row, optionally followed by inactive");
   }
-  const auto x = Number(line, key + " column", words[0], -32768, 32767);
-  const auto y = Number(line, key + " row", words[1], -32768, 32767);
+  const auto x = Number(line, key + " column", words[0], kPositionRange);
+  const auto y = Number(line, key + " row", words[1], kPositionRange);
   if (!x || !y) return;
   LevelSlot& s = d_.Slots[static_cast<std::size_t>(*slot)];
   const int16_t flag = active ? -1 : 0;
@@ -268,26 +252,26 @@ void Parser::HeaderLine(int line, std::string_view raw) {
   if (key == "view") {
     const auto words = Words(value);
     if (words.size() != 2) return Error(line, "view: expected a column and a row");
-    // The 40 by 40 view must stay inside the 120 by 80 grid.
-    const auto x = Number(line, "view column", words[0], 0, 80);
-    const auto y = Number(line, "view row", words[1], 0, 40);
+    const auto x = Number(line, "view column", words[0], kViewColumnRange);
+    const auto y = Number(line, "view row", words[1], kViewRowRange);
     if (x) d_.StartViewX = static_cast<int32_t>(*x);
     if (y) d_.StartViewY = static_cast<int16_t>(*y);
     return;
   }
   if (key == "number") {
-    if (const auto n = Number(line, "number", value, 1, 20)) d_.Number = static_cast<int32_t>(*n);
+    if (const auto n = Number(line, "number", value, kNumberRange))
+      d_.Number = static_cast<int32_t>(*n);
   } else if (key == "characters") {
-    if (const auto n = Number(line, "characters", value, 0, 100))
+    if (const auto n = Number(line, "characters", value, kCharactersRange))
       d_.CharactersTotal = static_cast<int32_t>(*n);
   } else if (key == "needed") {
-    if (const auto n = Number(line, "needed", value, 0, 32767))
+    if (const auto n = Number(line, "needed", value, kCountRange))
       d_.CharactersNeeded = static_cast<int16_t>(*n);
   } else if (key == "time") {
-    if (const auto n = Number(line, "time", value, 0, 2147483647))
+    if (const auto n = Number(line, "time", value, kTimeRange))
       d_.TimeLeft = static_cast<int32_t>(*n);
   } else if (key == "release") {
-    if (const auto n = Number(line, "release", value, 0, 32767))
+    if (const auto n = Number(line, "release", value, kCountRange))
       d_.ReleaseInterval = static_cast<int16_t>(*n);
   }
 }

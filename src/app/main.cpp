@@ -2,12 +2,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QFile>
 #include <QKeySequence>
 #include <iostream>
 
 #include "app/autopilot.h"
 #include "app/start_up.h"
+#include "core/file_read.h"
 #include "ui/desktop/program_folder.h"
 #include "ui/desktop/qsettings_store.h"
 #include "ui/desktop/qt_host.h"
@@ -46,10 +46,16 @@ bool ParseKeys(const QString& text, std::vector<std::pair<long, int>>& keys) {
   return true;
 }
 
-QString ReadText(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return QString::fromUtf8(file.readAll());
+// The replay text, or empty after saying why it cannot be read.
+QString ReadReplay(const QString& path) {
+  const qb::FileRead read = qb::ReadSmallFile(path.toStdString(), qb::kMaxTextFileBytes);
+  if (!read.bytes || read.bytes->empty()) {
+    std::cerr << "cannot read the replay " << path.toStdString() << ": "
+              << (read.bytes ? "it is empty" : read.error) << "\n";
+    return {};
+  }
+  return QString::fromUtf8(reinterpret_cast<const char*>(read.bytes->data()),
+                           static_cast<qsizetype>(read.bytes->size()));
 }
 
 }  // namespace
@@ -104,11 +110,8 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   if (parser.isSet(replay)) {
-    pilot.replayText = ReadText(parser.value(replay));
-    if (pilot.replayText.isEmpty()) {
-      std::cerr << "cannot read the replay " << parser.value(replay).toStdString() << "\n";
-      return 2;
-    }
+    pilot.replayText = ReadReplay(parser.value(replay));
+    if (pilot.replayText.isEmpty()) return 2;
   }
   const bool unattended = !pilot.shotsFolder.isEmpty() || pilot.quitAfterMs > 0;
   qb::app::Autopilot autopilot(pilot);

@@ -3,10 +3,13 @@
 #include "audio/music_device.h"
 
 #include <SDL2/SDL_mixer.h>
+#include <fluidsynth.h>
 
 #include <filesystem>
 #include <fstream>
+#include <mutex>
 #include <string_view>
+#include <utility>
 
 namespace qb {
 namespace {
@@ -18,7 +21,40 @@ bool LooksLikeMidi(const std::string& path) {
   return std::string_view(head, 4) == "MThd" || std::string_view(head, 4) == "RIFF";
 }
 
+// FluidSynth's own lines name no file, and it writes them from the audio thread while a piece
+// plays. Its errors are kept here instead, for the device to report with the file; its
+// warnings and notes, which a player cannot act on, are dropped.
+std::mutex synthMutex;
+std::string synthProblem;  // the first since the device last looked
+
+void KeepSynthLine(int level, const char* message, void*) {
+  if (level > FLUID_ERR || message == nullptr) return;  // warnings, information, debugging
+  const std::lock_guard<std::mutex> lock(synthMutex);
+  if (synthProblem.empty()) synthProblem = message;
+}
+
+std::string TakeSynthLine() {
+  const std::lock_guard<std::mutex> lock(synthMutex);
+  return std::exchange(synthProblem, {});
+}
+
 }  // namespace
+
+MusicDevice::MusicDevice(ProblemLog& log) : log_(log) {
+  for (int level = FLUID_PANIC; level < LAST_LOG_LEVEL; ++level)
+    fluid_set_log_function(level, KeepSynthLine, nullptr);
+}
+
+void MusicDevice::TakeSynthProblem() {
+  const std::string line = TakeSynthLine();
+  if (line.empty() || openName_.empty()) return;
+  broken_.insert(openName_);
+  log_.Report("music damaged " + openName_,
+              "music file " + openName_ + " cannot be played (" + line + "): playing without it");
+  const std::string name = openName_;
+  if (music_) Command(MusicCommand::Close);
+  openName_ = name;  // lines still coming belong to it
+}
 
 MusicDevice::~MusicDevice() {
   Release();
@@ -32,7 +68,7 @@ void MusicDevice::Release() {
 
 void MusicDevice::Open() {
   if (music_) return;
-  if (!mixerOpen_) return;
+  if (!mixerOpen_ || broken_.count(fileName_)) return;
   std::error_code error;
   if (!std::filesystem::is_regular_file(fileName_, error)) {
     log_.Report("music file", "music file " + fileName_ + " not found: playing without music");
@@ -45,6 +81,8 @@ void MusicDevice::Open() {
                 "music file " + fileName_ + " is not a MIDI file: playing without it");
     return;
   }
+  TakeSynthProblem();  // what is left of the piece before belongs to it
+  openName_ = fileName_;
   music_ = Mix_LoadMUS(fileName_.c_str());
   if (retired_) {
     Mix_FreeMusic(retired_);
@@ -56,6 +94,7 @@ void MusicDevice::Open() {
 }
 
 void MusicDevice::Command(MusicCommand command) {
+  TakeSynthProblem();
   switch (command) {
     case MusicCommand::Open:
       Open();
@@ -82,7 +121,8 @@ void MusicDevice::Command(MusicCommand command) {
   }
 }
 
-int MusicDevice::Mode() const {
+int MusicDevice::Mode() {
+  TakeSynthProblem();
   if (!music_) return kMusicModeNotReady;
   return Mix_PlayingMusic() ? kMusicModePlaying : kMusicModeStopped;
 }

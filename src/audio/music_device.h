@@ -2,6 +2,7 @@
 // through SDL2_mixer (FluidSynth with the General MIDI sound font).
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "audio/problem_log.h"
@@ -17,7 +18,7 @@ inline constexpr int kMusicModePlaying = 526;
 
 class MusicDevice {
  public:
-  explicit MusicDevice(ProblemLog& log) : log_(log) {}
+  explicit MusicDevice(ProblemLog& log);
   ~MusicDevice();
   MusicDevice(const MusicDevice&) = delete;
   MusicDevice& operator=(const MusicDevice&) = delete;
@@ -29,14 +30,19 @@ class MusicDevice {
   void Release();
   void SetFileName(const std::string& path) { fileName_ = path; }
   void Command(MusicCommand command);
-  int Mode() const;
+  int Mode();
 
  private:
   void Open();
+  // Reports what FluidSynth said of the piece since the last call, once, naming the file, and
+  // closes the piece for good: it would fail the same way at each restart.
+  void TakeSynthProblem();
 
   ProblemLog& log_;
   bool mixerOpen_ = false;
   std::string fileName_;
+  std::string openName_;          // the file of the open piece
+  std::set<std::string> broken_;  // files FluidSynth could not play, not opened again
   _Mix_Music* music_ = nullptr;
   // The piece closed last, freed only once the next one is loaded: while it lives, FluidSynth
   // keeps the sound font's samples in memory, so the next Open takes a fraction of a second

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/file_read.h"
+
 namespace qb {
 
 enum class Screen { Title, WinLevel, LooseLevel, WonGame, ChooseLevel };
@@ -37,8 +39,10 @@ class Host {
   virtual void SetMusicFileName(const std::string& path) = 0;
   virtual void SendMusicCommand(MusicCommand command) = 0;
   virtual int MusicMode() = 0;
-  // The whole content of a file, or nothing when it cannot be read.
-  virtual std::optional<std::vector<uint8_t>> ReadFile(const std::string& path) = 0;
+  // The whole content of a level file, or why it cannot be read.
+  virtual FileRead ReadFile(const std::string& path) = 0;
+  // One line for whoever started the game, on the error stream: what went wrong, and where.
+  virtual void Note(const std::string& text) { (void)text; }
 };
 
 }  // namespace qb

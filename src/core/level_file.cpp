@@ -7,6 +7,8 @@
 #include <limits>
 #include <optional>
 
+#include "core/quoted.h"
+
 namespace qb {
 namespace {
 
@@ -127,12 +129,12 @@ class Reader {
     while (a < e && s[a] == ' ') ++a;
     while (e > a && s[e - 1] == ' ') --e;
     const std::string t = s.substr(a, e - a);
-    if (t.empty()) return Fail(std::string(field) + ": the text \"" + s + "\" is not a number");
+    if (t.empty()) return Fail(std::string(field) + ": the text " + Quoted(s) + " is not a number");
     // from_chars reads the same whatever the locale (the window sets the system's locale).
     double d = 0;
     const auto [end, error] = std::from_chars(t.data(), t.data() + t.size(), d);
     if (error != std::errc() || end != t.data() + t.size())
-      return Fail(std::string(field) + ": the text \"" + s + "\" is not a number");
+      return Fail(std::string(field) + ": the text " + Quoted(s) + " is not a number");
     return Whole(d, field);
   }
 
@@ -177,6 +179,9 @@ LevelRead ReadLevel(const std::vector<uint8_t>& bytes) {
   if (d.Number == 0) {
     out.status = ReadStatus::Missing;
     out.shortAt = r.shortAt();
+    out.problem = bytes.empty()         ? "the file is empty"
+                  : r.shortAt().empty() ? "its level number is 0"
+                                        : "the file ends in the " + r.shortAt();
     return out;
   }
   d.CharactersTotal = r.Variant("character count");
@@ -207,6 +212,10 @@ LevelRead ReadLevel(const std::vector<uint8_t>& bytes) {
   }
   out.shortAt = r.shortAt();
   out.problem = r.problem();
+  // Without a grid the fields read as 0 past the end would be blamed instead of the short file.
+  if (out.problem.empty() && !out.shortAt.empty() && d.Squares.empty())
+    out.problem = "the file ends early, after " + std::to_string(bytes.size()) + " bytes, in the " +
+                  out.shortAt + ", before the grid";
   if (out.problem.empty()) out.problem = UnsupportedProblem(d);
   if (!out.problem.empty()) out.status = ReadStatus::Unsupported;
   return out;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -54,9 +55,19 @@ enum class ReadStatus {
 struct LevelRead {
   ReadStatus status = ReadStatus::Ok;
   LevelData data;
-  std::string problem;  // for Unsupported
+  std::string problem;  // why the level is Unsupported or Missing
   std::string shortAt;  // not empty when the file ended early: the field where it ended
 };
+
+// The largest file the reader can take in: the longest title, every variant stored as the
+// longest string, every 16-bit field and the largest grid, and a little room for trailing bytes.
+// Anything longer is not a level file.
+inline constexpr std::size_t kLevelVariants = 36;  // 4 + 5 in each of 6 slots + 2
+inline constexpr std::size_t kLevelIntegers = 37;  // 1 + 1 + 8 + 4 in each of 6 slots + 3
+inline constexpr std::size_t kLongestString = 32767;
+inline constexpr std::size_t kMaxLevelFileBytes = kLongestString +
+                                                  kLevelVariants * (2 + 2 + kLongestString) +
+                                                  kLevelIntegers * 2 + 120 * 80 * 2 + 4096;
 
 // Reads a level file as the game does: past the end a variant reads Empty and an Integer 0.
 LevelRead ReadLevel(const std::vector<uint8_t>& bytes);

@@ -5,6 +5,8 @@
 #include <cctype>
 #include <cstdlib>
 
+#include "core/quoted.h"
+
 namespace qb {
 namespace {
 
@@ -66,11 +68,11 @@ std::vector<std::string> LoadSettings(Game& g, SettingsStore& store) {
       if (const auto n = ToNumber(*stored)) {
         level = std::clamp(*n, 1L, 20L);
         if (level != *n)
-          notes.push_back(Where("HighestLevel", key) + " = " + *stored +
+          notes.push_back(Where("HighestLevel", key) + " = " + Quoted(*stored) +
                           " is outside 1 to 20; using " + std::to_string(level));
       } else {
-        notes.push_back(Where("HighestLevel", key) + " = \"" + *stored +
-                        "\" is not a number; using 1");
+        notes.push_back(Where("HighestLevel", key) + " = " + Quoted(*stored) +
+                        " is not a number; using 1");
       }
     }
     g.HighestLevel(tier) = static_cast<int16_t>(level);
@@ -81,8 +83,8 @@ std::vector<std::string> LoadSettings(Game& g, SettingsStore& store) {
       if (const auto b = ToBool(*stored))
         value = *b;
       else
-        notes.push_back(Where("Options", o.key) + " = \"" + *stored +
-                        "\" is not True or False; using " + (o.fallback ? "True" : "False"));
+        notes.push_back(Where("Options", o.key) + " = " + Quoted(*stored) +
+                        " is not True or False; using " + (o.fallback ? "True" : "False"));
     }
     g.ui.OptionsChecked(o.option) = value;
   }
@@ -94,8 +96,8 @@ std::vector<std::string> LoadSettings(Game& g, SettingsStore& store) {
     else if (n && *n == 4)
       g.CurrentSkill = 4;  // the whole game was won; the chooser shows Expert
     else if (!Trim(*stored).empty())
-      notes.push_back(Where("CurrentSkill", "Skill") + " = \"" + *stored +
-                      "\" is not a tier 0 to 3; using 0");
+      notes.push_back(Where("CurrentSkill", "Skill") + " = " + Quoted(*stored) +
+                      " is not a tier 0 to 3; using 0");
   }
   return notes;
 }

@@ -42,23 +42,25 @@ void ApplyLevel(Game& g, const LevelData& d) {
 
 LoadResult OpenLevel(Game& g, const std::string& fileName) {
   const LoadOutcome outcome = LoadLevel(g, fileName);
+  if (!outcome.detail.empty()) g.host->Note(outcome.detail);
   if (!outcome.Loaded()) g.host->ShowMessage(outcome.message, "Quorbit");
   return outcome.result;
 }
 
 LoadOutcome LoadLevel(Game& g, const std::string& fileName) {
   const int32_t keptSkill = g.CurrentSkill;
-  const auto bytes = g.host->ReadFile(fileName);
-  const LevelRead read = ReadLevel(bytes ? *bytes : std::vector<uint8_t>{});
+  const FileRead file = g.host->ReadFile(fileName);
+  const LevelRead read = ReadLevel(file.bytes ? *file.bytes : std::vector<uint8_t>{});
   if (read.status == ReadStatus::Unsupported)
     return {LoadResult::Unsupported,
-            "The level file " + fileName + " cannot be played: " + read.problem + "."};
+            "The level file " + fileName + " cannot be played: " + read.problem + ".", ""};
   if (read.status == ReadStatus::Missing) {
     g.LevelTitle = read.data.Title;
     g.LevelName = read.data.Title;
     g.LevelNumber = read.data.Number;
     g.CurrentSkill = keptSkill;
-    return {LoadResult::Missing, "This level does not exist!"};
+    return {LoadResult::Missing, "This level does not exist!",
+            "no level in " + fileName + ": " + (file.bytes ? read.problem : file.error)};
   }
   ApplyLevel(g, read.data);
   g.SettingUp = True;

@@ -16,6 +16,7 @@ enum class LoadResult { Loaded, Missing, Unsupported };
 struct LoadOutcome {
   LoadResult result = LoadResult::Loaded;
   std::string message;  // empty when loaded
+  std::string detail;   // for a missing level: which file was looked for and why it did not count
   bool Loaded() const { return result == LoadResult::Loaded; }
 };
 

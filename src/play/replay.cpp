@@ -1,9 +1,11 @@
 // The replay of the previous attempt, and replay files.
 #include "play/replay.h"
 
+#include <algorithm>
 #include <cctype>
-#include <sstream>
+#include <string_view>
 
+#include "core/quoted.h"
 #include "play/use_tool.h"
 
 namespace qb {
@@ -31,15 +33,29 @@ void Label8_Click(Game& g) {
   g.ui.Label8Visible = false;
 }
 
+namespace {
+
+// The lines of a text whose lines end in LF, CRLF or CR alone.
+std::vector<std::string_view> Lines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  std::size_t start = 0;
+  while (start < text.size()) {
+    const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
+    lines.push_back(text.substr(start, end - start));
+    start = end + 1;
+    if (end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n') ++start;
+  }
+  return lines;
+}
+
+}  // namespace
+
 ReplayFile ParseReplay(const std::string& text) {
   ReplayFile out;
-  std::istringstream in(text);
-  std::string line;
   int number = 0;
   const auto blank = [](char ch) { return ch == ' ' || ch == '\t'; };
-  while (std::getline(in, line)) {
+  for (const std::string_view line : Lines(text)) {
     ++number;
-    if (!line.empty() && line.back() == '\r') line.pop_back();
     if (line.find_first_not_of(" \t") == std::string::npos || line[0] == '#') continue;
     const auto fail = [&](const std::string& why) {
       out.error = "line " + std::to_string(number) + ": " + why;
@@ -48,23 +64,29 @@ ReplayFile ParseReplay(const std::string& text) {
     // <cycle> <letters>: digits, blanks, letters, nothing after but blanks.
     std::size_t i = 0;
     while (i < line.size() && std::isdigit(static_cast<unsigned char>(line[i]))) ++i;
-    if (i == 0) return fail("expected a cycle number, found \"" + line + "\"");
-    if (i > 4 || std::stoi(line.substr(0, i)) > kLastReplayTick)
-      return fail("cycle " + line.substr(0, i) + " is not 0 to 2000");
-    const int cycle = std::stoi(line.substr(0, i));
+    if (i == 0) return fail("expected a cycle number, found " + Quoted(line));
+    const std::string_view digits = line.substr(0, i);
+    if (i > 1 && digits[0] == '0')
+      return fail("the cycle number " + Quoted(digits) +
+                  " starts with a zero; write it as a plain number, 0 to 2000");
+    if (i > 4 || std::stoi(std::string(digits)) > kLastReplayTick)
+      return fail("cycle " + std::string(digits.substr(0, 12)) + (i > 12 ? "..." : "") +
+                  " is not 0 to 2000");
+    const int cycle = std::stoi(std::string(digits));
     const std::size_t gap = i;
     while (i < line.size() && blank(line[i])) ++i;
     if (i == line.size()) return fail("no tool letters after the cycle number");
     if (i == gap) return fail("a blank must separate the cycle number from the letters");
     const std::size_t lettersAt = i;
     while (i < line.size() && !blank(line[i])) ++i;
-    const std::string letters = line.substr(lettersAt, i - lettersAt);
+    const std::string_view letters = line.substr(lettersAt, i - lettersAt);
     while (i < line.size() && blank(line[i])) ++i;
     if (i != line.size())
-      return fail("unexpected text \"" + line.substr(i) + "\" after the letters");
-    for (char ch : letters)
-      if (std::string("CKBDJRXLE").find(ch) == std::string::npos)
-        return fail(std::string("'") + ch + "' is not a replay letter (C K B D J R X L E)");
+      return fail("unexpected text " + Quoted(line.substr(i)) + " after the letters");
+    for (const char ch : letters)
+      if (std::string_view("CKBDJRXLE").find(ch) == std::string_view::npos)
+        return fail(Quoted(std::string_view(&ch, 1)) +
+                    " is not a replay letter (C K B D J R X L E)");
     out.slots[static_cast<std::size_t>(cycle)] += letters;
   }
   return out;

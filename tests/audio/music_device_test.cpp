@@ -4,8 +4,10 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <thread>
 
 #include "audio/audio.h"
@@ -120,6 +122,44 @@ TEST(MusicDevice, AFileThatIsNotMidiIsReportedOnce) {
   std::filesystem::remove(path);
   EXPECT_EQ(test::LineCount(log), 1) << log.str();
   EXPECT_NE(log.str().find("is not a MIDI file"), std::string::npos) << log.str();
+}
+
+// A damaged piece is named in one line of ours; FluidSynth's own lines, which name no file, do not
+// reach the error stream, and the piece is not restarted every half second.
+TEST(MusicDevice, ADamagedPieceIsReportedOnceByName) {
+  test::AudioDriver driver("dummy");
+  const auto path = std::filesystem::temp_directory_path() /
+                    ("quorbit-damaged-" + std::to_string(::getpid()) + ".mid");
+  // One track whose first delta time runs over five bytes: not a variable length number.
+  const std::string track = "\xFF\xFF\xFF\xFF\xFF\x90\x3C\x40";
+  std::ofstream(path, std::ios::binary)
+      << std::string("MThd\0\0\0\x06\0\0\0\x01\0\x60MTrk\0\0\0", 21) << char(track.size()) << track;
+  const std::string stderrCopy = path.string() + ".err";
+  std::fflush(stderr);
+  const int savedStderr = ::dup(2);
+  std::freopen(stderrCopy.c_str(), "w", stderr);
+  std::ostringstream log;
+  {
+    Audio audio(log);
+    ASSERT_TRUE(audio.Open());
+    for (int i = 0; i < 3; ++i) {
+      StartTrack(audio, path.string());
+      WaitForMode(audio, kMusicModeNotReady, std::chrono::seconds(3));
+    }
+    EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
+  }
+  std::fflush(stderr);
+  ::dup2(savedStderr, 2);
+  ::close(savedStderr);
+  std::ifstream copy(stderrCopy);
+  const std::string synthLines{std::istreambuf_iterator<char>(copy), {}};
+  std::filesystem::remove(path);
+  std::filesystem::remove(stderrCopy);
+  EXPECT_EQ(synthLines, "");
+  EXPECT_EQ(test::LineCount(log), 1) << log.str();
+  EXPECT_NE(log.str().find(path.string() + " cannot be played (Invalid variable length number)"),
+            std::string::npos)
+      << log.str();
 }
 
 TEST(AudioWithoutDevice, EverythingIsSilentAndReportedOnce) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "level_bytes.h"
 #include "level_table.h"
 #include "level_text.h"
@@ -105,6 +107,26 @@ TEST(LevelCheck, MissingAndRefusedFilesSayWhy) {
   const auto refused = CheckLevelBytes(kind40.Bytes());
   EXPECT_FALSE(refused.loaded);
   EXPECT_EQ(Joined(refused), "the game cannot play it: square (1, 0) has kind 40, not 0 to 17\n");
+}
+
+// A read level holding a value the text form cannot hold gets a warning in the very words that
+// decompile refuses it with.
+TEST(LevelCheck, ValuesOutsideTheTextFormAreWarnedOfInDecompilesWords) {
+  const std::function<void(LevelData&)> changes[] = {
+      [](LevelData& d) { d.CharactersNeeded = -5; }, [](LevelData& d) { d.TimeLeft = -100; },
+      [](LevelData& d) { d.ToolStock[3] = -1; },     [](LevelData& d) { d.ReleaseInterval = -1; },
+      [](LevelData& d) { d.Number = -3; },           [](LevelData& d) { d.Number = 2147483647; }};
+  for (const auto& change : changes) {
+    LevelData d = Level(40, 40);
+    change(d);
+    const auto checked = CheckLevelBytes(WriteLevel(d));
+    const auto decompiled = leveltext::ParseLevelText(leveltext::PrintLevelText(d));
+    ASSERT_FALSE(decompiled.ok());
+    SCOPED_TRACE(decompiled.diagnostics[0].message);
+    ASSERT_EQ(checked.diagnostics.size(), 1u) << Joined(checked);
+    EXPECT_TRUE(checked.diagnostics[0].warning);
+    EXPECT_EQ(checked.diagnostics[0].message, decompiled.diagnostics[0].message);
+  }
 }
 
 TEST(LevelCheck, TextLevelsAreCheckedWithTheirLines) {

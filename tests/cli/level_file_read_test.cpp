@@ -1,8 +1,12 @@
 // Reading hand-built binary level files: variant tags, short files and the files the game refuses.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <filesystem>
+#include <fstream>
 #include <functional>
 
+#include "core/file_read.h"
 #include "core/level_file.h"
 #include "level_bytes.h"
 
@@ -159,14 +163,25 @@ TEST(LevelFileRead, ShortFilesBeforeTheLevelNumberAreMissingLevels) {
   }
 }
 
-TEST(LevelFileRead, AFileEndingAfterTheLevelNumberHasNoGridAndIsRefused) {
-  const auto full = LevelBytes().Bytes();
+// The fields read as 0 past the end are not blamed: the problem is the file's early end.
+TEST(LevelFileRead, AFileEndingBeforeItsGridIsRefusedAsEndingEarly) {
+  const LevelBytes b;
+  const auto full = b.Bytes();
   const std::size_t afterNumber = 2 + 9 + 4 + 4;  // title length, title, tier, number
   const LevelRead r = ReadLevel(std::vector<uint8_t>(full.begin(), full.begin() + afterNumber));
   EXPECT_EQ(r.status, ReadStatus::Unsupported);
   EXPECT_EQ(r.shortAt, "character count");
-  EXPECT_NE(r.problem.find("grid width 0"), std::string::npos) << r.problem;
+  EXPECT_EQ(r.problem,
+            "the file ends early, after 19 bytes, in the character count, before the grid");
   EXPECT_EQ(r.data.Number, 7);
+  // One byte of the grid width: grid width, Integer grid height and release interval are 8 bytes.
+  const std::size_t inWidth = b.GridOffset() - 7;
+  const LevelRead w = ReadLevel(std::vector<uint8_t>(full.begin(), full.begin() + inWidth));
+  EXPECT_EQ(w.status, ReadStatus::Unsupported);
+  EXPECT_NE(
+      w.problem.find("ends early, after " + std::to_string(inWidth) + " bytes, in the grid width"),
+      std::string::npos)
+      << w.problem;
 }
 
 TEST(LevelFileRead, AFileCutInsideItsGridLoadsWithEmptySquares) {
@@ -274,6 +289,47 @@ TEST(LevelFileRead, InactiveSlotsOutsideTheLevelAndTheEdgeCountsAreAccepted) {
     c.CharactersTotal = Var::Integer(count);
     EXPECT_EQ(Read(c).status, ReadStatus::Ok) << count;
   }
+}
+
+// Writes the bytes to a file of the temporary folder and returns its path.
+std::string Written(const char* name, const std::vector<uint8_t>& bytes) {
+  const auto path = std::filesystem::temp_directory_path() / (name + std::to_string(::getpid()));
+  std::ofstream(path, std::ios::binary)
+      .write(reinterpret_cast<const char*>(bytes.data()),
+             static_cast<std::streamsize>(bytes.size()));
+  return path.string();
+}
+
+// The limit holds the largest level the reader takes in: the longest title, every variant stored
+// as the longest string and the largest grid. One byte over the limit is refused.
+TEST(SmallFile, TheLargestLevelLayoutIsReadAndOneByteMoreIsNot) {
+  const auto longest = [](int v) {
+    std::string s(32767, ' ');
+    const std::string n = std::to_string(v);
+    return Var::String(s.replace(0, n.size(), n));
+  };
+  LevelBytes b;
+  b.Title = std::string(32767, 'T');
+  b.Skill = longest(1);
+  b.Number = longest(7);
+  b.CharactersTotal = longest(5);
+  b.TimeLeft = longest(200);
+  for (SlotBytes& s : b.Slots)
+    s.EntranceActive = s.TrapActive = s.EntranceX = s.TrapX = s.TeleportX = longest(0);
+  b.Slots[0].EntranceActive = longest(-1);
+  b.StartViewX = longest(0);
+  b.GridWidth = 120;
+  b.GridHeight = longest(80);
+  b.Columns.assign(120 * 80, 2);
+  b.Columns[0] = 16;
+  std::vector<uint8_t> bytes = b.Bytes();
+  const std::string path = Written("quorbit-largest-", bytes);
+  const FileRead largest = ReadSmallFile(path, kMaxLevelFileBytes);
+  ASSERT_TRUE(largest.bytes) << largest.error;
+  EXPECT_EQ(ReadLevel(*largest.bytes).status, ReadStatus::Ok) << ReadLevel(bytes).problem;
+  bytes.resize(kMaxLevelFileBytes + 1);
+  EXPECT_FALSE(ReadSmallFile(Written("quorbit-largest-", bytes), kMaxLevelFileBytes).bytes);
+  std::filesystem::remove(path);
 }
 
 }  // namespace

@@ -52,6 +52,9 @@ TEST(LoadLevel, AZeroByteOrAbsentFileIsAMissingLevel) {
   EXPECT_EQ(p.host.messages.size(), 2u);
   EXPECT_EQ(p.host.messages.back(), "Quorbit: This level does not exist!");
   EXPECT_EQ(p.g.CurrentSkill, 1);
+  // Whoever started the game learns which file was looked for and why it did not count.
+  EXPECT_EQ(p.host.notes, (std::vector<std::string>{"no level in other.lvl: the file is empty",
+                                                    "no level in no such file.lvl: no such file"}));
 }
 
 TEST(LoadLevel, ARefusedLevelLeavesTheRunningGameExactlyAsItWas) {

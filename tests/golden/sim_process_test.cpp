@@ -66,7 +66,9 @@ LevelData Walkway() {
 TEST_F(SimProcess, AMissingOrUnsupportedLevelExitsTwoWithAMessage) {
   SimRun missing = Sim((dir / "nothing.lvl").string());
   EXPECT_EQ(missing.status, 2);
-  EXPECT_EQ(missing.out, "This level does not exist!\n");
+  EXPECT_EQ(missing.out, "This level does not exist!\nno level in " +
+                             (dir / "nothing.lvl").string() +
+                             ": cannot open it: No such file or directory\n");
 
   LevelData bad = Walkway();
   bad.Squares[3] = 40;

@@ -19,6 +19,7 @@ class RecorderHost : public Host {
   std::vector<Screen> screens;
   std::vector<ScreenTexts> screenTexts;
   std::vector<std::string> messages;
+  std::vector<std::string> notes;  // lines for the error stream
   std::vector<std::string> music;  // "Open planet9.mid"-like log of device commands
   std::map<std::string, std::vector<uint8_t>> files;
   int musicMode = 0;
@@ -40,11 +41,12 @@ class RecorderHost : public Host {
     music.push_back(kNames[static_cast<int>(command)]);
   }
   int MusicMode() override { return musicMode; }
-  std::optional<std::vector<uint8_t>> ReadFile(const std::string& path) override {
+  FileRead ReadFile(const std::string& path) override {
     const auto it = files.find(path);
-    if (it == files.end()) return std::nullopt;
-    return it->second;
+    if (it == files.end()) return {std::nullopt, "no such file"};
+    return {it->second, {}};
   }
+  void Note(const std::string& text) override { notes.push_back(text); }
   bool PlayedSound(int number) const {
     for (const auto& s : sounds)
       if (s.number == number) return true;

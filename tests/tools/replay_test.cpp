@@ -99,13 +99,21 @@ TEST(ReplayFile, ParsesCyclesJoinsLinesAndNamesTheBadLine) {
   EXPECT_EQ(ok.slots[2000], "L");
   EXPECT_EQ(ParseReplay("1 B\n2001 B\n").error, "line 2: cycle 2001 is not 0 to 2000");
   EXPECT_EQ(ParseReplay("x\n").error.rfind("line 1:", 0), 0u);
-  EXPECT_EQ(ParseReplay("1 Q\n").error, "line 1: 'Q' is not a replay letter (C K B D J R X L E)");
+  EXPECT_EQ(ParseReplay("1 Q\n").error, "line 1: \"Q\" is not a replay letter (C K B D J R X L E)");
   EXPECT_EQ(ParseReplay("1\n").error, "line 1: no tool letters after the cycle number");
   EXPECT_EQ(ParseReplay("5C\n").error,
             "line 1: a blank must separate the cycle number from the letters");
   EXPECT_EQ(ParseReplay("+7 K\n").error.rfind("line 1: expected a cycle number", 0), 0u);
   EXPECT_EQ(ParseReplay("  # indented\n").error.rfind("line 1:", 0), 0u);
   EXPECT_EQ(ParseReplay("99999999999 B\n").error, "line 1: cycle 99999999999 is not 0 to 2000");
+  EXPECT_EQ(ParseReplay("00000021 K\n").error,
+            "line 1: the cycle number \"00000021\" starts with a zero; write it as a plain "
+            "number, 0 to 2000");
+  // Lines end in LF, CRLF or CR alone; a CR-only file is not one long comment.
+  const ReplayFile mac = ParseReplay("# old editor\r3 B\r\r4 J\r\n5 X");
+  EXPECT_TRUE(mac.error.empty()) << mac.error;
+  EXPECT_EQ(mac.slots[3] + mac.slots[4] + mac.slots[5], "BJX");
+  EXPECT_EQ(ParseReplay("1 B\r2 Q\r").error.rfind("line 2:", 0), 0u);
 }
 
 }  // namespace

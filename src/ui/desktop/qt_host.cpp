@@ -1,10 +1,11 @@
 // The host of the rules in the game: sound and music, the modal screens, message boxes, files.
 #include "ui/desktop/qt_host.h"
 
-#include <QFile>
 #include <QMessageBox>
+#include <iostream>
 
 #include "audio/audio.h"
+#include "core/level_file.h"
 #include "ui/desktop/desk_top.h"
 #include "ui/screens/screens.h"
 
@@ -57,11 +58,12 @@ void QtHost::ShowMessage(const std::string& text, const std::string& title) {
   if (window_) window_->LeaveModal();
 }
 
-std::optional<std::vector<uint8_t>> QtHost::ReadFile(const std::string& path) {
-  QFile file(QString::fromStdString(path));  // UTF-8 paths: spaces and accents work
-  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-  const QByteArray bytes = file.readAll();
-  return std::vector<uint8_t>(bytes.begin(), bytes.end());
+FileRead QtHost::ReadFile(const std::string& path) {
+  return ReadSmallFile(path, kMaxLevelFileBytes);  // paths are UTF-8, as the system's are
+}
+
+void QtHost::Note(const std::string& text) {
+  std::cerr << "quorbit2: " << text << std::endl;
 }
 
 }  // namespace qb::ui

@@ -27,7 +27,8 @@ class QtHost : public Host {
   void SetMusicFileName(const std::string& path) override;
   void SendMusicCommand(MusicCommand command) override;
   int MusicMode() override;
-  std::optional<std::vector<uint8_t>> ReadFile(const std::string& path) override;
+  FileRead ReadFile(const std::string& path) override;
+  void Note(const std::string& text) override;
 
   // Replaces the modal screens (tests, the unattended runs of the end-to-end script).
   using ScreenShower = std::function<void(Screen, const ScreenTexts&)>;
