@@ -258,6 +258,9 @@ void DeskTop::LayOut() {
   QPoint place;
   for (int square = largest; square >= 12; --square) {
     view_->SetSquareSize(square);
+    // The frame's layout learns of the view's new size now, not at the next resize.
+    frame1_->layout()->invalidate();
+    frame1_->layout()->activate();
     frame1_->adjustSize();
     place = FramePlace(outer, frame1_->size());
     const QRect r(place, frame1_->size());
