@@ -1,6 +1,7 @@
 // Keys, mouse and scroll bars of the play window: each reaches the rules with the right numbers.
 #include <QtTest>
 
+#include "ui/screens/screens.h"
 #include "window_fixture.h"
 
 using qb::test::Window;
@@ -16,6 +17,8 @@ class InputTest : public QObject {
   void cornerBlockedHorizontallyBlocksVertically();
   void mouseOverAControlStopsEdgeScrolling();
   void statusPanelButtons();
+  void keyClosingAMenuOrScreenDoesNothingInThePlayWindow_data();
+  void keyClosingAMenuOrScreenDoesNothingInThePlayWindow();
 
  private:
   static void MoveOn(QWidget* w, QPoint p) {
@@ -149,11 +152,12 @@ void InputTest::edgeScrollUsesTheWindowsConstants() {
   // Top under 801 twips, bottom over the outer height less 1600 twips (measured from the client
   // area's top, so the bottom zone is narrower on the screen).
   const int bottomEdge = static_cast<int>((outer.height() - 1600) / perPx);
-  MoveOn(bg, {bg->width() / 2, bottomEdge + 2});
+  const int bareX = w.desk->Frame1()->x() / 2;  // beside the frame, away from the side zones
+  MoveOn(bg, {bareX, bottomEdge + 2});
   QCOMPARE(w.g.ViewY, 4);
-  MoveOn(bg, {bg->width() / 2, static_cast<int>(801 / perPx) + 1});
+  MoveOn(bg, {bareX, static_cast<int>(801 / perPx) + 1});
   QCOMPARE(w.g.ViewY, 4);
-  MoveOn(bg, {bg->width() / 2, static_cast<int>(801 / perPx) - 1});
+  MoveOn(bg, {bareX, static_cast<int>(801 / perPx) - 1});
   QCOMPARE(w.g.ViewY, 0);
 }
 
@@ -216,6 +220,75 @@ void InputTest::statusPanelButtons() {
                     QPoint(map->width() - 1, map->height() - 1));
   QCOMPARE(w.g.ViewX, 20);
   QCOMPARE(w.g.ViewY, 4);
+}
+
+void InputTest::keyClosingAMenuOrScreenDoesNothingInThePlayWindow_data() {
+  QTest::addColumn<QString>("opened");
+  QTest::addColumn<int>("key");
+  QTest::newRow("Level menu, Esc") << "menu" << int(Qt::Key_Escape);
+  QTest::newRow("chooser, Esc") << "chooser" << int(Qt::Key_Escape);
+  QTest::newRow("instructions, Enter") << "instructions" << int(Qt::Key_Return);
+  QTest::newRow("about box, Enter") << "about" << int(Qt::Key_Return);
+  QTest::newRow("title card, Enter") << "title" << int(Qt::Key_Return);
+  QTest::newRow("refused level, Enter") << "refused" << int(Qt::Key_Return);
+}
+
+// The key goes where the platform sends it: to the open menu or modal screen while one is up
+// (the press closes it), then to the play window.
+void InputTest::keyClosingAMenuOrScreenDoesNothingInThePlayWindow() {
+  QFETCH(QString, opened);
+  QFETCH(int, key);
+  Window w;
+  w.desk->SetChooser(qb::ui::ShowChooseLevel);
+  w.desk->SetHelpDialogs(qb::ui::ShowInstructions, qb::ui::ShowAbout);
+  w.host.SetMessageShower({});
+  if (opened == "title") {
+    w.host.SetScreenShower({});
+  } else {
+    w.Play();
+    w.Ticks(9);
+  }
+  const auto state = [&w] {
+    const qb::Controls& ui = w.g.ui;
+    return QString("level %1 released %2 replay %3 paused %4 fast %5 interval %6")
+        .arg(w.g.LevelNumber)
+        .arg(w.g.CharactersReleased)
+        .arg(w.g.ReplayPlaying)
+        .arg(ui.LevelCmdChecked(0))
+        .arg(ui.LevelCmdChecked(1))
+        .arg(ui.Timer1Interval);
+  };
+  QString before, after;
+  bool keySent = false;
+  const auto hitKey = [&] {
+    before = state();
+    for (const bool press : {true, false}) {
+      QWidget* top = QApplication::activePopupWidget();
+      if (!top) top = QApplication::activeModalWidget();
+      QWindow* target = (top ? top : w.desk.get())->windowHandle();
+      if (press)
+        QTest::keyPress(target, Qt::Key(key));
+      else
+        QTest::keyRelease(target, Qt::Key(key));
+    }
+    keySent = true;
+  };
+  if (opened == "menu") {
+    w.desk->Menus().menuCmd[1]->popup(w.desk->mapToGlobal(QPoint(40, 0)));
+    QVERIFY(QApplication::activePopupWidget());
+    hitKey();
+  } else {
+    QTimer::singleShot(50, hitKey);
+    if (opened == "chooser") w.desk->ChooseLevel();
+    if (opened == "instructions") w.desk->Menus().helpCmd[0]->trigger();
+    if (opened == "about") w.desk->Menus().helpCmd[2]->trigger();
+    if (opened == "title") w.Play();
+    if (opened == "refused") w.desk->PlayLevel(0, 7);
+  }
+  QTRY_VERIFY(keySent);
+  after = state();
+  QVERIFY(!QApplication::activeModalWidget() && !QApplication::activePopupWidget());
+  QCOMPARE(after, before);
 }
 
 QTEST_MAIN(InputTest)

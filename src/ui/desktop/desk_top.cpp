@@ -174,6 +174,7 @@ void DeskTop::SyncTimers() {
 
 void DeskTop::EnterModal() {
   ++modalDepth_;
+  keysDown_.clear();  // their releases go to the modal window
   SyncFromModel();
 }
 

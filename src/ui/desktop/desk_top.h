@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QMainWindow>
 #include <QScrollBar>
+#include <QSet>
 #include <QTimer>
 #include <functional>
 
@@ -102,6 +103,9 @@ class DeskTop : public QMainWindow {
   QTimer timer1_, timer2_, timer3_;
   int timer1Restarts_ = 0;
   int modalDepth_ = 0;
+  // Keys whose press reached this window and whose release has not: only their releases count,
+  // so a key that closed a menu, a dialog or a screen does nothing here when it is let go.
+  QSet<int> keysDown_;
   bool inFault_ = false;
   long cycles_ = 0;
   double mouseX_ = 0, mouseY_ = 0;  // last mouse position over the background, in twips

@@ -110,19 +110,23 @@ int DeskTop::KeyCodeOf(int qtKey) {
 void DeskTop::keyPressEvent(QKeyEvent* event) {
   const int code = KeyCodeOf(event->key());
   if (code == 0) return QMainWindow::keyPressEvent(event);
+  keysDown_.insert(code);
   Run([this, code] { Form_KeyDown(g_, code); });
 }
 
 void DeskTop::keyReleaseEvent(QKeyEvent* event) {
   const int code = KeyCodeOf(event->key());
   if (code == 0) return QMainWindow::keyReleaseEvent(event);
-  if (event->isAutoRepeat()) return;  // one key up when the key is let go
+  if (event->isAutoRepeat()) return;    // one key up when the key is let go
+  if (!keysDown_.remove(code)) return;  // pressed elsewhere: a menu, a dialog or a screen
   Run([this, code] { Form_KeyUp(g_, code); });
 }
 
 bool DeskTop::eventFilter(QObject* watched, QEvent* event) {
   const bool move = event->type() == QEvent::MouseMove;
-  if (watched == background_) {
+  if (watched == background_ && event->type() == QEvent::FocusOut) {
+    keysDown_.clear();  // a menu or another window takes the keys, and their releases
+  } else if (watched == background_) {
     // Moves over the frame reach the background too, passed up from the controls: only the
     // bare background scrolls.
     const QPointF pos = move ? static_cast<QMouseEvent*>(event)->position() : QPointF();
