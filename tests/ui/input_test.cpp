@@ -1,6 +1,7 @@
 // Keys, mouse and scroll bars of the play window: each reaches the rules with the right numbers.
 #include <QtTest>
 
+#include "ui/desktop/key_codes.h"
 #include "ui/screens/screens.h"
 #include "window_fixture.h"
 
@@ -12,6 +13,7 @@ class InputTest : public QObject {
   void keyCodesAreTheRulesCodes();
   void pauseFastAndRestartKeys();
   void toolKeysAndArrowKeys();
+  void toolKeysAreTheTopRowOfAnyLayout();
   void scrollBarsMoveTheViewAndNeverKeepFocus();
   void edgeScrollUsesTheWindowsConstants();
   void cornerBlockedHorizontallyBlocksVertically();
@@ -34,18 +36,17 @@ class InputTest : public QObject {
 };
 
 void InputTest::keyCodesAreTheRulesCodes() {
-  using D = qb::ui::DeskTop;
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Return), 13);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Enter), 13);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Escape), 27);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_P), 80);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_1), 49);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_8), 56);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Left), 37);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Up), 38);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Right), 39);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Down), 40);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_F5), 0);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Return), 13);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Enter), 13);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Escape), 27);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_P), 80);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_1), 49);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_8), 56);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Left), 37);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Up), 38);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Right), 39);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Down), 40);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_F5), 0);
 }
 
 void InputTest::pauseFastAndRestartKeys() {
@@ -97,6 +98,33 @@ void InputTest::toolKeysAndArrowKeys() {
   QCOMPARE(w.desk->VScroll1()->value(), 1);
   QTest::keyClick(w.desk.get(), Qt::Key_Left);
   QCOMPARE(w.g.ViewX, 0);
+}
+
+// A key event as the platform makes it: the Qt key, its text and the native codes.
+static int CodeOf(const char* platform, int qtKey, const QString& text, quint32 scanCode,
+                  quint32 virtualKey, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+  const QKeyEvent e(QEvent::KeyPress, qtKey, mods, scanCode, virtualKey, 0, text);
+  return qb::ui::KeyCodeOf(e, platform);
+}
+
+void InputTest::toolKeysAreTheTopRowOfAnyLayout() {
+  // X11 and Wayland: French "&" and "_", US Shift+1, are the keys 1 and 8; the keypad's 1 is not.
+  QCOMPARE(CodeOf("xcb", Qt::Key_Ampersand, "&", 10, 0x26), 49);
+  QCOMPARE(CodeOf("wayland", Qt::Key_Underscore, "_", 17, 0x5f), 56);
+  QCOMPARE(CodeOf("xcb", Qt::Key_Exclam, "!", 10, 0x21, Qt::ShiftModifier), 49);
+  QCOMPARE(CodeOf("xcb", Qt::Key_1, "1", 87, 0xffb1, Qt::KeypadModifier), 0);
+  QCOMPARE(CodeOf("xcb", Qt::Key_Return, "\r", 36, 0xff0d), 13);
+  // Windows: the virtual key codes '1' to '8' whatever the layout; scan code 10 is the key 9.
+  QCOMPARE(CodeOf("windows", Qt::Key_Eacute, QString::fromUtf8("é"), 3, 50), 50);
+  QCOMPARE(CodeOf("windows", Qt::Key_9, "9", 10, 57), 57);
+  // The play window reads them: French '"' (the key 3) builds.
+  Window w;
+  w.Play();
+  w.Ticks(9);
+  const int builds = w.g.ToolStock(2);
+  QKeyEvent quote(QEvent::KeyPress, Qt::Key_QuoteDbl, Qt::NoModifier, 12, 51, 0, "\"");
+  QApplication::sendEvent(w.desk.get(), &quote);
+  QCOMPARE(w.g.ToolStock(2), builds - 1);
 }
 
 void InputTest::scrollBarsMoveTheViewAndNeverKeepFocus() {

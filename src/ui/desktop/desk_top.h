@@ -65,8 +65,6 @@ class DeskTop : public QMainWindow {
   long CyclesRun() const { return cycles_; }
   // The window's outer size in twips, as the edge-scroll rule measures it.
   QSizeF OuterTwips() const;
-  // Turns a Qt key into the key code the rules read (0 for keys they do not know).
-  static int KeyCodeOf(int qtKey);
   // Where Frame1 goes for a window of that outer size in twips.
   QPoint FramePlace(const QSizeF& outerTwips, const QSize& frame) const;
 

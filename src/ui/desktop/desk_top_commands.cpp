@@ -1,5 +1,6 @@
 // DeskTop's commands: menus, keys, mouse and the level chooser, each a call into the rules.
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -11,6 +12,7 @@
 #include "tools/level_commands.h"
 #include "tools/replay.h"
 #include "ui/desktop/desk_top.h"
+#include "ui/desktop/key_codes.h"
 
 namespace qb::ui {
 
@@ -83,39 +85,15 @@ void DeskTop::PlayLevel(int tier, int number) {
   });
 }
 
-int DeskTop::KeyCodeOf(int qtKey) {
-  switch (qtKey) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return KeyEnter;
-    case Qt::Key_Escape:
-      return KeyEscape;
-    case Qt::Key_Left:
-      return KeyLeft;
-    case Qt::Key_Up:
-      return KeyUp;
-    case Qt::Key_Right:
-      return KeyRight;
-    case Qt::Key_Down:
-      return KeyDown;
-    default:
-      break;
-  }
-  // Letters and digits carry their upper-case character codes in both systems.
-  if ((qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) || (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z))
-    return qtKey;
-  return 0;
-}
-
 void DeskTop::keyPressEvent(QKeyEvent* event) {
-  const int code = KeyCodeOf(event->key());
+  const int code = KeyCodeOf(*event, QGuiApplication::platformName());
   if (code == 0) return QMainWindow::keyPressEvent(event);
   keysDown_.insert(code);
   Run([this, code] { Form_KeyDown(g_, code); });
 }
 
 void DeskTop::keyReleaseEvent(QKeyEvent* event) {
-  const int code = KeyCodeOf(event->key());
+  const int code = KeyCodeOf(*event, QGuiApplication::platformName());
   if (code == 0) return QMainWindow::keyReleaseEvent(event);
   if (event->isAutoRepeat()) return;    // one key up when the key is let go
   if (!keysDown_.remove(code)) return;  // pressed elsewhere: a menu, a dialog or a screen
