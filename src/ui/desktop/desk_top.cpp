@@ -151,14 +151,14 @@ void DeskTop::SyncScrollBars() {
 
 void DeskTop::SyncTimers() {
   const Controls& ui = g_.ui;
+  // The music keep-alive runs always, so a track that ends under a screen starts again.
+  if (!timer2_.isActive()) timer2_.start();
   if (modalDepth_ > 0) {
     timer1_.stop();
-    timer2_.stop();
     timer3_.stop();
     timer1Restarts_ = ui.Timer1Restarts;
     return;
   }
-  if (!timer2_.isActive()) timer2_.start();
   if (ui.Timer1Enabled) {
     // A change of interval, or "Enabled False then True" in the rules, starts a fresh interval.
     if (!timer1_.isActive() || timer1_.interval() != ui.Timer1Interval ||
