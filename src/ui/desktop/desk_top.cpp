@@ -176,11 +176,25 @@ void DeskTop::EnterModal() {
   ++modalDepth_;
   keysDown_.clear();  // their releases go to the modal window
   SyncFromModel();
+  KeepSettings();  // a won level is saved before the next level's title card
 }
 
 void DeskTop::LeaveModal() {
   if (modalDepth_ > 0) --modalDepth_;
   SyncFromModel();
+  KeepSettings();
+}
+
+void DeskTop::SetSettingsStore(QSettingsStore* store) {
+  keeper_.reset();
+  if (!store) return;
+  keeper_ = std::make_unique<SettingsKeeper>(*store, [this](const std::string& text) {
+    if (g_.host) g_.host->ShowMessage(text, "Quorbit");
+  });
+}
+
+void DeskTop::KeepSettings() {
+  if (keeper_) keeper_->SaveIfChanged(g_);
 }
 
 bool DeskTop::Run(const std::function<void()>& call) {
@@ -194,6 +208,7 @@ bool DeskTop::Run(const std::function<void()>& call) {
     ReportFault(QString::fromStdString(e.what()));
   }
   SyncFromModel();
+  KeepSettings();
   return ok;
 }
 

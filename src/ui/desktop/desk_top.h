@@ -7,11 +7,14 @@
 #include <QSet>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "core/game.h"
 #include "core/settings.h"
 #include "ui/desktop/desk_top_menus.h"
 #include "ui/desktop/play_view.h"
+#include "ui/desktop/qsettings_store.h"
+#include "ui/desktop/settings_keeper.h"
 #include "ui/desktop/status_panel.h"
 
 namespace qb::ui {
@@ -46,7 +49,8 @@ class DeskTop : public QMainWindow {
   // One tick of the game timer: one game cycle.
   void Tick();
 
-  void SetSettingsStore(SettingsStore* store) { store_ = store; }
+  // The settings are written there at exit, and whenever they change in between.
+  void SetSettingsStore(QSettingsStore* store);
   void SetChooser(Chooser chooser) { chooser_ = std::move(chooser); }
   void SetHelpDialogs(Dialog instructions, Dialog about);
   void SetFaultReport(FaultReport report) { faultReport_ = std::move(report); }
@@ -88,6 +92,7 @@ class DeskTop : public QMainWindow {
   void OnTimer3();
   void BackgroundMouseMove(const QPointF& pos);
   void ReportFault(const QString& what);
+  void KeepSettings();
   double Dpi() const;
 
   Game& g_;
@@ -107,7 +112,7 @@ class DeskTop : public QMainWindow {
   bool inFault_ = false;
   long cycles_ = 0;
   double mouseX_ = 0, mouseY_ = 0;  // last mouse position over the background, in twips
-  SettingsStore* store_ = nullptr;
+  std::unique_ptr<SettingsKeeper> keeper_;
   Chooser chooser_;
   Dialog instructions_, about_;
   FaultReport faultReport_;

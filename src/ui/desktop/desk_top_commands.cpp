@@ -120,8 +120,8 @@ void DeskTop::closeEvent(QCloseEvent* event) {
   timer1_.stop();
   timer2_.stop();
   timer3_.stop();
-  if (store_) SaveSettings(g_, *store_);
-  store_ = nullptr;  // saved once, however often the window is asked to close
+  if (keeper_) keeper_->Save(g_);
+  keeper_.reset();  // saved once, however often the window is asked to close
   event->accept();
 }
 
