@@ -188,7 +188,7 @@ void DeskTop::LeaveModal() {
 void DeskTop::SetSettingsStore(QSettingsStore* store) {
   keeper_.reset();
   if (!store) return;
-  keeper_ = std::make_unique<SettingsKeeper>(*store, [this](const std::string& text) {
+  keeper_ = std::make_unique<SettingsKeeper>(*store, g_, [this](const std::string& text) {
     if (g_.host) g_.host->ShowMessage(text, "Quorbit");
   });
 }

@@ -14,26 +14,29 @@ class Snapshot : public SettingsStore {
   std::map<std::string, std::string> values;
 };
 
-}  // namespace
-
-SettingsKeeper::SettingsKeeper(QSettingsStore& store, Report report)
-    : store_(store), report_(std::move(report)) {}
-
-void SettingsKeeper::SaveIfChanged(const Game& g) {
+std::map<std::string, std::string> SettingsOf(const Game& g) {
   Snapshot now;
   SaveSettings(g, now);
-  if (now.values != tried_) Save(g);
+  return now.values;
+}
+
+}  // namespace
+
+SettingsKeeper::SettingsKeeper(QSettingsStore& store, const Game& g, Report report)
+    : store_(store), report_(std::move(report)), tried_(SettingsOf(g)) {}
+
+void SettingsKeeper::SaveIfChanged(const Game& g) {
+  if (SettingsOf(g) != tried_) Save(g);
 }
 
 void SettingsKeeper::Save(const Game& g) {
-  Snapshot now;
-  SaveSettings(g, now);
-  tried_ = now.values;  // set first: the report below may lead straight back here
+  tried_ = SettingsOf(g);  // set first: the report below may lead straight back here
   SaveSettings(g, store_);
   if (store_.Flush() || !report_) return;
   report_("Your progress and options could not be saved to the file\n" +
           store_.FileName().toStdString() +
-          "\n\nThe game goes on; saving is tried again at the next change and when you exit.");
+          "\n\nCheck that the file and its folder can be written. Saving is tried again at "
+          "the next change and at exit.");
 }
 
 }  // namespace qb::ui

@@ -12,9 +12,10 @@ namespace qb::ui {
 
 class SettingsKeeper {
  public:
-  // `report` shows a message to the player when the settings could not be written.
+  // `report` shows a message to the player when the settings could not be written. The
+  // settings of `g` now are taken as written (they were just read).
   using Report = std::function<void(const std::string& text)>;
-  SettingsKeeper(QSettingsStore& store, Report report);
+  SettingsKeeper(QSettingsStore& store, const Game& g, Report report);
 
   // Writes the settings when they differ from the last write tried (a won level, an option).
   // A write that failed is tried again at the next change, and at exit.
