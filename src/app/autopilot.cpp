@@ -115,7 +115,6 @@ void Autopilot::Finish() {
     if (QWidget* modal = QApplication::activeModalWidget()) modal->close();
     return;
   }
-  poll_.stop();
   if (!options_.finalShot.isEmpty()) desk_->grab().save(options_.finalShot);
   if (options_.report) {
     std::printf("cycles %ld painted %ld\n", desk_->CyclesRun(),
@@ -132,7 +131,8 @@ void Autopilot::Finish() {
     QApplication::processEvents();
     if (QApplication::activeModalWidget() == modal) break;
   }
-  desk_->close();
+  desk_->close();  // a message box it shows (the settings not saved) is answered as any other
+  poll_.stop();
   QApplication::quit();
 }
 

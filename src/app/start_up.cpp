@@ -17,7 +17,7 @@ StartUpSteps GameSteps() {
   return steps;
 }
 
-std::unique_ptr<ui::DeskTop> StartUp(Game& g, SettingsStore& store, const StartUpSteps& steps,
+std::unique_ptr<ui::DeskTop> StartUp(Game& g, ui::QSettingsStore& store, const StartUpSteps& steps,
                                      std::ostream& notes, FirstLevel first) {
   g.ui.Timer1Interval = 350;
   g.MusicState = "Stopped";

@@ -8,6 +8,7 @@
 #include "core/game.h"
 #include "core/settings.h"
 #include "ui/desktop/desk_top.h"
+#include "ui/desktop/qsettings_store.h"
 
 namespace qb::app {
 
@@ -30,7 +31,7 @@ struct FirstLevel {
 // game timer gets its interval; the settings are read (notes on a bad value go to `notes`); the
 // splash loads, centres and shows the play window; then the level chooser (or `first`) opens.
 // The window saves the settings to `store` when it closes.
-std::unique_ptr<ui::DeskTop> StartUp(Game& g, SettingsStore& store, const StartUpSteps& steps,
+std::unique_ptr<ui::DeskTop> StartUp(Game& g, ui::QSettingsStore& store, const StartUpSteps& steps,
                                      std::ostream& notes, FirstLevel first = {});
 
 }  // namespace qb::app

@@ -1,6 +1,8 @@
 // Keys, mouse and scroll bars of the play window: each reaches the rules with the right numbers.
 #include <QtTest>
 
+#include "ui/desktop/key_codes.h"
+#include "ui/screens/screens.h"
 #include "window_fixture.h"
 
 using qb::test::Window;
@@ -11,11 +13,14 @@ class InputTest : public QObject {
   void keyCodesAreTheRulesCodes();
   void pauseFastAndRestartKeys();
   void toolKeysAndArrowKeys();
+  void toolKeysAreTheTopRowOfAnyLayout();
   void scrollBarsMoveTheViewAndNeverKeepFocus();
   void edgeScrollUsesTheWindowsConstants();
   void cornerBlockedHorizontallyBlocksVertically();
   void mouseOverAControlStopsEdgeScrolling();
   void statusPanelButtons();
+  void menusAndScreensKeepTheirKeysAndTheMusicGoesOn_data();
+  void menusAndScreensKeepTheirKeysAndTheMusicGoesOn();
 
  private:
   static void MoveOn(QWidget* w, QPoint p) {
@@ -31,18 +36,17 @@ class InputTest : public QObject {
 };
 
 void InputTest::keyCodesAreTheRulesCodes() {
-  using D = qb::ui::DeskTop;
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Return), 13);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Enter), 13);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Escape), 27);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_P), 80);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_1), 49);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_8), 56);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Left), 37);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Up), 38);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Right), 39);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_Down), 40);
-  QCOMPARE(D::KeyCodeOf(Qt::Key_F5), 0);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Return), 13);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Enter), 13);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Escape), 27);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_P), 80);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_1), 49);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_8), 56);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Left), 37);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Up), 38);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Right), 39);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_Down), 40);
+  QCOMPARE(qb::ui::KeyCodeOf(Qt::Key_F5), 0);
 }
 
 void InputTest::pauseFastAndRestartKeys() {
@@ -94,6 +98,33 @@ void InputTest::toolKeysAndArrowKeys() {
   QCOMPARE(w.desk->VScroll1()->value(), 1);
   QTest::keyClick(w.desk.get(), Qt::Key_Left);
   QCOMPARE(w.g.ViewX, 0);
+}
+
+// A key event as the platform makes it: the Qt key, its text and the native codes.
+static int CodeOf(const char* platform, int qtKey, const QString& text, quint32 scanCode,
+                  quint32 virtualKey, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+  const QKeyEvent e(QEvent::KeyPress, qtKey, mods, scanCode, virtualKey, 0, text);
+  return qb::ui::KeyCodeOf(e, platform);
+}
+
+void InputTest::toolKeysAreTheTopRowOfAnyLayout() {
+  // X11 and Wayland: French "&" and "_", US Shift+1, are the keys 1 and 8; the keypad's 1 is not.
+  QCOMPARE(CodeOf("xcb", Qt::Key_Ampersand, "&", 10, 0x26), 49);
+  QCOMPARE(CodeOf("wayland", Qt::Key_Underscore, "_", 17, 0x5f), 56);
+  QCOMPARE(CodeOf("xcb", Qt::Key_Exclam, "!", 10, 0x21, Qt::ShiftModifier), 49);
+  QCOMPARE(CodeOf("xcb", Qt::Key_1, "1", 87, 0xffb1, Qt::KeypadModifier), 0);
+  QCOMPARE(CodeOf("xcb", Qt::Key_Return, "\r", 36, 0xff0d), 13);
+  // Windows: the virtual key codes '1' to '8' whatever the layout; scan code 10 is the key 9.
+  QCOMPARE(CodeOf("windows", Qt::Key_Eacute, QString::fromUtf8("é"), 3, 50), 50);
+  QCOMPARE(CodeOf("windows", Qt::Key_9, "9", 10, 57), 57);
+  // The play window reads them: French '"' (the key 3) builds.
+  Window w;
+  w.Play();
+  w.Ticks(9);
+  const int builds = w.g.ToolStock(2);
+  QKeyEvent quote(QEvent::KeyPress, Qt::Key_QuoteDbl, Qt::NoModifier, 12, 51, 0, "\"");
+  QApplication::sendEvent(w.desk.get(), &quote);
+  QCOMPARE(w.g.ToolStock(2), builds - 1);
 }
 
 void InputTest::scrollBarsMoveTheViewAndNeverKeepFocus() {
@@ -149,11 +180,12 @@ void InputTest::edgeScrollUsesTheWindowsConstants() {
   // Top under 801 twips, bottom over the outer height less 1600 twips (measured from the client
   // area's top, so the bottom zone is narrower on the screen).
   const int bottomEdge = static_cast<int>((outer.height() - 1600) / perPx);
-  MoveOn(bg, {bg->width() / 2, bottomEdge + 2});
+  const int bareX = w.desk->Frame1()->x() / 2;  // beside the frame, away from the side zones
+  MoveOn(bg, {bareX, bottomEdge + 2});
   QCOMPARE(w.g.ViewY, 4);
-  MoveOn(bg, {bg->width() / 2, static_cast<int>(801 / perPx) + 1});
+  MoveOn(bg, {bareX, static_cast<int>(801 / perPx) + 1});
   QCOMPARE(w.g.ViewY, 4);
-  MoveOn(bg, {bg->width() / 2, static_cast<int>(801 / perPx) - 1});
+  MoveOn(bg, {bareX, static_cast<int>(801 / perPx) - 1});
   QCOMPARE(w.g.ViewY, 0);
 }
 
@@ -216,6 +248,77 @@ void InputTest::statusPanelButtons() {
                     QPoint(map->width() - 1, map->height() - 1));
   QCOMPARE(w.g.ViewX, 20);
   QCOMPARE(w.g.ViewY, 4);
+}
+
+void InputTest::menusAndScreensKeepTheirKeysAndTheMusicGoesOn_data() {
+  QTest::addColumn<QString>("opened");
+  QTest::addColumn<int>("key");
+  QTest::newRow("Level menu, Esc") << "menu" << int(Qt::Key_Escape);
+  QTest::newRow("chooser, Esc") << "chooser" << int(Qt::Key_Escape);
+  QTest::newRow("instructions, Enter") << "instructions" << int(Qt::Key_Return);
+  QTest::newRow("about box, Enter") << "about" << int(Qt::Key_Return);
+  QTest::newRow("title card, Enter") << "title" << int(Qt::Key_Return);
+  QTest::newRow("refused level, Enter") << "refused" << int(Qt::Key_Return);
+}
+
+// The key goes where the platform sends it: to the open menu or modal screen while one is up
+// (the press closes it), then to the play window.
+void InputTest::menusAndScreensKeepTheirKeysAndTheMusicGoesOn() {
+  QFETCH(QString, opened);
+  QFETCH(int, key);
+  Window w;
+  w.desk->SetChooser(qb::ui::ShowChooseLevel);
+  w.desk->SetHelpDialogs(qb::ui::ShowInstructions, qb::ui::ShowAbout);
+  w.host.SetMessageShower({});
+  if (opened == "title") {
+    w.host.SetScreenShower({});
+  } else {
+    w.Play();
+    w.Ticks(9);
+  }
+  const auto state = [&w] {
+    const qb::Controls& ui = w.g.ui;
+    return QString("level %1 released %2 replay %3 paused %4 fast %5 interval %6")
+        .arg(w.g.LevelNumber)
+        .arg(w.g.CharactersReleased)
+        .arg(w.g.ReplayPlaying)
+        .arg(ui.LevelCmdChecked(0))
+        .arg(ui.LevelCmdChecked(1))
+        .arg(ui.Timer1Interval);
+  };
+  QString before, after;
+  bool keySent = false, musicKeptAlive = false;
+  const auto hitKey = [&] {
+    before = state();
+    musicKeptAlive = w.desk->Timer2().isActive();  // a track that ends now starts again
+    for (const bool press : {true, false}) {
+      QWidget* top = QApplication::activePopupWidget();
+      if (!top) top = QApplication::activeModalWidget();
+      QWindow* target = (top ? top : w.desk.get())->windowHandle();
+      if (press)
+        QTest::keyPress(target, Qt::Key(key));
+      else
+        QTest::keyRelease(target, Qt::Key(key));
+    }
+    keySent = true;
+  };
+  if (opened == "menu") {
+    w.desk->Menus().menuCmd[1]->popup(w.desk->mapToGlobal(QPoint(40, 0)));
+    QVERIFY(QApplication::activePopupWidget());
+    hitKey();
+  } else {
+    QTimer::singleShot(50, hitKey);
+    if (opened == "chooser") w.desk->ChooseLevel();
+    if (opened == "instructions") w.desk->Menus().helpCmd[0]->trigger();
+    if (opened == "about") w.desk->Menus().helpCmd[2]->trigger();
+    if (opened == "title") w.Play();
+    if (opened == "refused") w.desk->PlayLevel(0, 7);
+  }
+  QTRY_VERIFY(keySent);
+  QVERIFY(musicKeptAlive);
+  after = state();
+  QVERIFY(!QApplication::activeModalWidget() && !QApplication::activePopupWidget());
+  QCOMPARE(after, before);
 }
 
 QTEST_MAIN(InputTest)

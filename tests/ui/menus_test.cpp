@@ -12,6 +12,7 @@ class MenusTest : public QObject {
  private Q_SLOTS:
   void menuTreeHasTheCaptionsOrderAndChecks();
   void optionChecksFollowTheModelAndPersist();
+  void settingsThatCannotBeWrittenAreReportedAndTriedAgain();
   void pausingWhileFastLeavesFastMode();
   void fastWhilePausedKeepsTheGamePaused();
   void endLevelHidesThePlayfieldAndDisablesLevelCommands();
@@ -73,6 +74,31 @@ void MenusTest::optionChecksFollowTheModelAndPersist() {
   next.desk->SyncFromModel();
   QVERIFY(!next.desk->Menus().optionsCmd[1]->isChecked());
   QVERIFY(next.desk->Menus().optionsCmd[4]->isChecked());
+}
+
+void MenusTest::settingsThatCannotBeWrittenAreReportedAndTriedAgain() {
+  qb::test::ClearStoredSettings();
+  qb::ui::QSettingsStore store;
+  const QString file = store.FileName();
+  const auto block = [&file] { return QFile::remove(file) && QDir().mkpath(file); };
+  QVERIFY(block());  // a folder in the file's place: nobody can write it, not even root
+  Window w;
+  w.desk->SetSettingsStore(&store);
+  QAction* sound = w.desk->Menus().optionsCmd[qb::OptSound];
+  sound->trigger();
+  QCOMPARE(w.messages.size(), std::size_t{1});
+  QVERIFY2(w.messages[0].find(file.toStdString()) != std::string::npos, w.messages[0].c_str());
+  w.Play();
+  w.Ticks(3);  // nothing to save: no new attempt, no new message
+  QCOMPARE(w.messages.size(), std::size_t{1});
+  QVERIFY(QDir().rmdir(file));
+  sound->trigger();  // the next change is written
+  QCOMPARE(w.messages.size(), std::size_t{1});
+  QCOMPARE(qb::ui::QSettingsStore().Get("Options", "Sound").value_or(""), std::string("False"));
+  QVERIFY(block());
+  w.desk->close();  // and so is the exit
+  QCOMPARE(w.messages.size(), std::size_t{2});
+  QVERIFY(QDir().rmdir(file));
 }
 
 void MenusTest::pausingWhileFastLeavesFastMode() {

@@ -1,5 +1,6 @@
 // The start of the program: its order, the settings it reads and writes, and the program folder.
 #include <QtTest>
+#include <csignal>
 #include <sstream>
 
 #include "app/start_up.h"
@@ -23,6 +24,7 @@ class StartUpTest : public QObject {
   void runsSettingsSplashWindowThenChooser();
   void badStoredValueFallsBackWithANote();
   void programFolderWithSpacesAndAccents();
+  void aWonLevelOutlivesAKilledGame();
 };
 
 void StartUpTest::runsSettingsSplashWindowThenChooser() {
@@ -123,6 +125,35 @@ void StartUpTest::programFolderWithSpacesAndAccents() {
   g.ProgramFolder = data.toStdString();
   QVERIFY(qb::LoadLevel(g, qb::LevelPath(g, 0, 1)).Loaded());
   QCOMPARE(g.LevelName, std::string("Accents"));
+}
+
+void StartUpTest::aWonLevelOutlivesAKilledGame() {
+  qb::test::ClearStoredSettings();
+  qb::test::Window levels;  // only for its program folder with Beginner1 and 2
+  QTemporaryDir shots;
+  QProcess game;
+  game.start(qEnvironmentVariable("QUORBIT2"),
+             {"--program-folder", levels.Folder(), "--start", "Beginner 1", "--fast", "--shots",
+              shots.path(), "--screen-delay-ms", "100", "--quit-after-ms", "60000"});
+  QVERIFY(game.waitForStarted());
+  // Answered: the title card, the level-won screen and the next level's title card.
+  QTRY_VERIFY_WITH_TIMEOUT(QDir(shots.path()).entryList({"*.png"}).size() >= 3, 40000);
+  ::kill(static_cast<pid_t>(game.processId()), SIGKILL);
+  QVERIFY(game.waitForFinished());
+
+  // The next start offers the level that the win opened.
+  qb::ui::QtHost host;
+  qb::Game g(host);
+  qb::ui::QSettingsStore store;
+  qb::app::StartUpSteps steps;
+  steps.runSplash = [](const std::function<void()>& load) { load(); };
+  int offered = 0;
+  steps.chooseLevel = [&](QWidget*, qb::Game& again, const auto&) {
+    offered = again.HighestLevel(0);
+  };
+  std::ostringstream notes;
+  qb::app::StartUp(g, store, steps, notes)->close();
+  QCOMPARE(offered, 2);
 }
 
 QTEST_MAIN(StartUpTest)

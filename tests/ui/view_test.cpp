@@ -15,6 +15,7 @@ class ViewTest : public QObject {
   void facesLookTheWayTheyWalk();
   void aCycleRepaintsOnlyWhatChanged();
   void overviewMapIsSizedFromTwips();
+  void everyResizeKeepsTheViewBesideThePanelWithRoomForTheTime();
 
  private:
   static QImage Square(const qb::ViewCell& cell, int side) {
@@ -97,6 +98,38 @@ void ViewTest::overviewMapIsSizedFromTwips() {
   auto* map = w.desk->Panel()->Map();
   QCOMPARE(map->width(), 120);  // 60 of 120 columns: half of 240 pixels
   QCOMPARE(map->height(), static_cast<int>(std::lround(44 / 80.0 * 1935 * 240 / 3135)));
+}
+
+void ViewTest::everyResizeKeepsTheViewBesideThePanelWithRoomForTheTime() {
+  Window w;
+  w.desk->resize(951, 790);
+  w.Play();
+  QApplication::processEvents();
+  for (const QSize size : {QSize(1580, 1150), QSize(1100, 820), QSize(951, 790), QSize(1800, 1300),
+                           QSize(1580, 1150), QSize(1300, 1250)}) {
+    w.desk->resize(size);
+    QApplication::processEvents();
+    const QRect view = w.desk->Picture1()->geometry();
+    const QRect bar = w.desk->VScroll1()->geometry();
+    const QRect panel = w.desk->Panel()->geometry();
+    const QString where = QString("%1x%2: view %3,%4 %5 bar right %6 panel left %7")
+                              .arg(size.width())
+                              .arg(size.height())
+                              .arg(view.x())
+                              .arg(view.y())
+                              .arg(view.width())
+                              .arg(bar.right())
+                              .arg(panel.left());
+    QVERIFY2(bar.left() > view.right() && panel.left() > bar.right(), qPrintable(where));
+    QVERIFY2(w.desk->Frame1()->rect().contains(panel), qPrintable(where));
+    QVERIFY2(w.desk->Background()->rect().contains(w.desk->Frame1()->geometry()),
+             qPrintable(where));
+    // "Time Left" keeps its three lines, the first one empty, and has room for them.
+    const auto* time = w.desk->Panel()->Label5();
+    QCOMPARE(time->text(), QString::fromStdString(w.g.ui.Label5Caption));
+    QCOMPARE(time->text().count('\n'), 2);
+    QVERIFY(time->height() >= time->sizeHint().height());
+  }
 }
 
 QTEST_MAIN(ViewTest)

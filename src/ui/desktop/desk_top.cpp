@@ -151,14 +151,14 @@ void DeskTop::SyncScrollBars() {
 
 void DeskTop::SyncTimers() {
   const Controls& ui = g_.ui;
+  // The music keep-alive runs always, so a track that ends under a screen starts again.
+  if (!timer2_.isActive()) timer2_.start();
   if (modalDepth_ > 0) {
     timer1_.stop();
-    timer2_.stop();
     timer3_.stop();
     timer1Restarts_ = ui.Timer1Restarts;
     return;
   }
-  if (!timer2_.isActive()) timer2_.start();
   if (ui.Timer1Enabled) {
     // A change of interval, or "Enabled False then True" in the rules, starts a fresh interval.
     if (!timer1_.isActive() || timer1_.interval() != ui.Timer1Interval ||
@@ -174,12 +174,27 @@ void DeskTop::SyncTimers() {
 
 void DeskTop::EnterModal() {
   ++modalDepth_;
+  keysDown_.clear();  // their releases go to the modal window
   SyncFromModel();
+  KeepSettings();  // a won level is saved before the next level's title card
 }
 
 void DeskTop::LeaveModal() {
   if (modalDepth_ > 0) --modalDepth_;
   SyncFromModel();
+  KeepSettings();
+}
+
+void DeskTop::SetSettingsStore(QSettingsStore* store) {
+  keeper_.reset();
+  if (!store) return;
+  keeper_ = std::make_unique<SettingsKeeper>(*store, g_, [this](const std::string& text) {
+    if (g_.host) g_.host->ShowMessage(text, "Quorbit");
+  });
+}
+
+void DeskTop::KeepSettings() {
+  if (keeper_) keeper_->SaveIfChanged(g_);
 }
 
 bool DeskTop::Run(const std::function<void()>& call) {
@@ -191,6 +206,7 @@ bool DeskTop::Run(const std::function<void()>& call) {
     ReportFault(QString::fromStdString(e.what()));
   }
   SyncFromModel();
+  KeepSettings();
   return ok;
 }
 
@@ -256,6 +272,9 @@ void DeskTop::LayOut() {
   QPoint place;
   for (int square = largest; square >= 12; --square) {
     view_->SetSquareSize(square);
+    // The frame's layout learns of the view's new size now, not at the next resize.
+    frame1_->layout()->invalidate();
+    frame1_->layout()->activate();
     frame1_->adjustSize();
     place = FramePlace(outer, frame1_->size());
     const QRect r(place, frame1_->size());

@@ -4,13 +4,17 @@
 #include <QFrame>
 #include <QMainWindow>
 #include <QScrollBar>
+#include <QSet>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "core/game.h"
 #include "core/settings.h"
 #include "ui/desktop/desk_top_menus.h"
 #include "ui/desktop/play_view.h"
+#include "ui/desktop/qsettings_store.h"
+#include "ui/desktop/settings_keeper.h"
 #include "ui/desktop/status_panel.h"
 
 namespace qb::ui {
@@ -45,7 +49,8 @@ class DeskTop : public QMainWindow {
   // One tick of the game timer: one game cycle.
   void Tick();
 
-  void SetSettingsStore(SettingsStore* store) { store_ = store; }
+  // The settings are written there at exit, and whenever they change in between.
+  void SetSettingsStore(QSettingsStore* store);
   void SetChooser(Chooser chooser) { chooser_ = std::move(chooser); }
   void SetHelpDialogs(Dialog instructions, Dialog about);
   void SetFaultReport(FaultReport report) { faultReport_ = std::move(report); }
@@ -64,8 +69,6 @@ class DeskTop : public QMainWindow {
   long CyclesRun() const { return cycles_; }
   // The window's outer size in twips, as the edge-scroll rule measures it.
   QSizeF OuterTwips() const;
-  // Turns a Qt key into the key code the rules read (0 for keys they do not know).
-  static int KeyCodeOf(int qtKey);
   // Where Frame1 goes for a window of that outer size in twips.
   QPoint FramePlace(const QSizeF& outerTwips, const QSize& frame) const;
 
@@ -89,6 +92,7 @@ class DeskTop : public QMainWindow {
   void OnTimer3();
   void BackgroundMouseMove(const QPointF& pos);
   void ReportFault(const QString& what);
+  void KeepSettings();
   double Dpi() const;
 
   Game& g_;
@@ -102,10 +106,13 @@ class DeskTop : public QMainWindow {
   QTimer timer1_, timer2_, timer3_;
   int timer1Restarts_ = 0;
   int modalDepth_ = 0;
+  // Keys whose press reached this window and whose release has not: only their releases count,
+  // so a key that closed a menu, a dialog or a screen does nothing here when it is let go.
+  QSet<int> keysDown_;
   bool inFault_ = false;
   long cycles_ = 0;
   double mouseX_ = 0, mouseY_ = 0;  // last mouse position over the background, in twips
-  SettingsStore* store_ = nullptr;
+  std::unique_ptr<SettingsKeeper> keeper_;
   Chooser chooser_;
   Dialog instructions_, about_;
   FaultReport faultReport_;

@@ -1,5 +1,6 @@
 // DeskTop's commands: menus, keys, mouse and the level chooser, each a call into the rules.
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -11,6 +12,7 @@
 #include "play/level_commands.h"
 #include "play/replay.h"
 #include "ui/desktop/desk_top.h"
+#include "ui/desktop/key_codes.h"
 
 namespace qb::ui {
 
@@ -83,46 +85,26 @@ void DeskTop::PlayLevel(int tier, int number) {
   });
 }
 
-int DeskTop::KeyCodeOf(int qtKey) {
-  switch (qtKey) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return KeyEnter;
-    case Qt::Key_Escape:
-      return KeyEscape;
-    case Qt::Key_Left:
-      return KeyLeft;
-    case Qt::Key_Up:
-      return KeyUp;
-    case Qt::Key_Right:
-      return KeyRight;
-    case Qt::Key_Down:
-      return KeyDown;
-    default:
-      break;
-  }
-  // Letters and digits carry their upper-case character codes in both systems.
-  if ((qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) || (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z))
-    return qtKey;
-  return 0;
-}
-
 void DeskTop::keyPressEvent(QKeyEvent* event) {
-  const int code = KeyCodeOf(event->key());
+  const int code = KeyCodeOf(*event, QGuiApplication::platformName());
   if (code == 0) return QMainWindow::keyPressEvent(event);
+  keysDown_.insert(code);
   Run([this, code] { Form_KeyDown(g_, code); });
 }
 
 void DeskTop::keyReleaseEvent(QKeyEvent* event) {
-  const int code = KeyCodeOf(event->key());
+  const int code = KeyCodeOf(*event, QGuiApplication::platformName());
   if (code == 0) return QMainWindow::keyReleaseEvent(event);
-  if (event->isAutoRepeat()) return;  // one key up when the key is let go
+  if (event->isAutoRepeat()) return;    // one key up when the key is let go
+  if (!keysDown_.remove(code)) return;  // pressed elsewhere: a menu, a dialog or a screen
   Run([this, code] { Form_KeyUp(g_, code); });
 }
 
 bool DeskTop::eventFilter(QObject* watched, QEvent* event) {
   const bool move = event->type() == QEvent::MouseMove;
-  if (watched == background_) {
+  if (watched == background_ && event->type() == QEvent::FocusOut) {
+    keysDown_.clear();  // a menu or another window takes the keys, and their releases
+  } else if (watched == background_) {
     // Moves over the frame reach the background too, passed up from the controls: only the
     // bare background scrolls.
     const QPointF pos = move ? static_cast<QMouseEvent*>(event)->position() : QPointF();
@@ -138,8 +120,8 @@ void DeskTop::closeEvent(QCloseEvent* event) {
   timer1_.stop();
   timer2_.stop();
   timer3_.stop();
-  if (store_) SaveSettings(g_, *store_);
-  store_ = nullptr;  // saved once, however often the window is asked to close
+  if (keeper_) keeper_->Save(g_);
+  keeper_.reset();  // saved once, however often the window is asked to close
   event->accept();
 }
 

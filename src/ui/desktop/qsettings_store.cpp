@@ -8,11 +8,20 @@ QString KeyOf(const std::string& section, const std::string& key) {
   return QString::fromStdString(section + "/" + key);
 }
 
+std::unique_ptr<QSettings> OpenStore() {
+  return std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, "Quorbit2",
+                                     "Quorbit2");
+}
+
 }  // namespace
 
-QSettingsStore::QSettingsStore()
-    : settings_(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
-                                            "Quorbit2", "Quorbit2")) {}
+QSettingsStore::QSettingsStore() : settings_(OpenStore()) {}
+
+bool QSettingsStore::Flush() {
+  settings_->sync();
+  failed_ = settings_->status() != QSettings::NoError;
+  return !failed_;
+}
 
 std::optional<std::string> QSettingsStore::Get(const std::string& section, const std::string& key) {
   const QVariant v = settings_->value(KeyOf(section, key));
@@ -22,6 +31,8 @@ std::optional<std::string> QSettingsStore::Get(const std::string& section, const
 
 void QSettingsStore::Set(const std::string& section, const std::string& key,
                          const std::string& value) {
+  if (failed_) settings_ = OpenStore();
+  failed_ = false;
   settings_->setValue(KeyOf(section, key), QString::fromStdString(value));
 }
 

@@ -155,10 +155,7 @@ void StatusPanel::Sync(const Game& g, double mapPixelsPerTwip) {
     Label3(i)->SetBack(ui.Label3Back(i));
   }
   for (int i = 0; i < 3; ++i) SetText(Label6(i), ui.Label6Caption(i));
-  // The model's caption starts with a line feed that only spaced the original label.
-  std::string time = ui.Label5Caption;
-  while (!time.empty() && time.front() == '\n') time.erase(time.begin());
-  SetText(label5_, time);
+  SetText(label5_, ui.Label5Caption);  // three lines: an empty one, "Time Left", the time
   label5_->SetBack(ui.Label5Back);
   SetText(label7_, ui.Label7Caption);
   label7_->SetBack(ui.Label7Back);
