@@ -34,7 +34,7 @@ void TimeMe(Game& g) {
     g.ReplayTick = Add16(g.ReplayTick, 1, "ReplayTick");
     if (g.ReplayTick == kLastReplayTick + 1) {
       g.ReplayTick = kLastReplayTick;
-      g.ReplayLog(kLastReplayTick) = "E";
+      g.ReplayLog(kLastReplayTick) = 'E';  // a char: see -Wrestrict in SetUpLevel
     }
   } catch (const LevelOver&) {
     // The level ended inside this cycle: the rest of the cycle does not run.

@@ -51,7 +51,7 @@ TestGame::TestGame(const LevelData& level, bool titleCard) {
   host.files["test.lvl"] = WriteLevel(level);
   g.LevelFile = "test.lvl";
   g.SkipTitle = titleCard ? False : True;
-  g.ReplayLog(0) = "E";
+  g.ReplayLog(0) = 'E';  // a char: g++ 12 -O3 misreads "E" (-Wrestrict)
   if (LoadLevel(g, "test.lvl") != LoadResult::Loaded)
     throw std::runtime_error("test level refused: " +
                              (host.messages.empty() ? std::string("?") : host.messages.back()));
