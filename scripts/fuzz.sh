@@ -13,7 +13,7 @@ targets=("$@")
 build=build-fuzz
 
 CC=clang CXX=clang++ cmake -S . -B "$build" -G Ninja -DQUORBIT_FUZZ=ON -DQUORBIT_GUI=OFF \
-  -DQUORBIT_BENCH=OFF >/dev/null
+  -DQUORBIT_BENCH=OFF -DQUORBIT_STRICT=ON >/dev/null
 nice -n 10 cmake --build "$build" --target fuzz_all
 
 run() {

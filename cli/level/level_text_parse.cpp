@@ -302,7 +302,7 @@ void Parser::Grid(int gridLine, const std::vector<std::string_view>& rows) {
       const auto byte = static_cast<unsigned char>(ch);
       Error(line,
             "unknown grid character " +
-                (byte >= 0x20 && byte < 0x7F ? "'" + std::string(1, ch) + "'"
+                (byte >= 0x20 && byte < 0x7F ? std::string{'\'', ch, '\''}
                                              : std::string("(byte ") + std::to_string(byte) + ")") +
                 " in column " + std::to_string(x));
       good = false;
@@ -406,7 +406,7 @@ ParsedLevel ParseLevelText(std::string_view text) {
 
 std::string FormatDiagnostic(const std::string& name, const Diagnostic& d) {
   std::string s = name;
-  if (d.line > 0) s += ":" + std::to_string(d.line);
+  if (d.line > 0) s += ':' + std::to_string(d.line);  // a char: see -Wrestrict in TitleValue
   return s + (d.warning ? ": warning: " : ": error: ") + d.message;
 }
 

@@ -11,7 +11,9 @@ std::string TitleValue(const std::string& title) {
                                             title.back() == ' ' || title.back() == '\t');
   const bool needsQuotes =
       blankEdge || title.find('#') != std::string::npos || (!title.empty() && title.front() == '"');
-  return needsQuotes ? "\"" + Latin1ToUtf8(title) + "\"" : Latin1ToUtf8(title);
+  // '"' + ..., not "\"" + ...: g++ 12 at -O3 takes a one-letter literal put before a string for an
+  // overlapping copy (-Wrestrict). The same goes for the other one-letter prefixes here.
+  return needsQuotes ? '"' + Latin1ToUtf8(title) + '"' : Latin1ToUtf8(title);
 }
 
 std::string TierValue(int32_t skill) {
@@ -39,7 +41,7 @@ std::string PrintLevelText(const LevelData& d) {
   std::string tools;
   for (int t = 0; t < kToolCount; ++t) {
     const int n = d.ToolStock[static_cast<std::size_t>(t)];
-    if (n != 0) tools += " " + std::string(ToolName(t)) + "=" + std::to_string(n);
+    if (n != 0) tools += ' ' + std::string(ToolName(t)) + '=' + std::to_string(n);
   }
   if (!tools.empty()) out += "tools:" + tools + "\n";
   out += "view: " + std::to_string(d.StartViewX) + " " + std::to_string(d.StartViewY) + "\n";

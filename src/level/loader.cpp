@@ -143,8 +143,9 @@ void SetUpLevel(Game& g) {
   g.ui.LevelCmdCaption(3) = kRestartCaption;
   g.ui.Label6Caption(0) = "of " + std::to_string(g.CharactersTotal);
   g.ui.Label6Caption(2) = "of " + std::to_string(g.CharactersNeeded);
-  g.ui.Label4Caption(0) = "0";
-  g.ui.Label4Caption(1) = "0";
+  // Chars, not one-letter strings: g++ 12 at -O3 takes those for overlapping copies (-Wrestrict).
+  g.ui.Label4Caption(0) = '0';
+  g.ui.Label4Caption(1) = '0';
 
   g.ViewX = g.StartViewX;
   g.ViewY = g.StartViewY;

@@ -85,7 +85,7 @@ ScreenTexts WonGameTexts() {
 
 void ShowTitleScreen(Game& g) {
   g.ReplayPlaying = False;
-  g.ReplayLog(0) = "E";
+  g.ReplayLog(0) = 'E';  // a char: see -Wrestrict in SetUpLevel
   const ScreenTexts texts = TitleTexts(g);
   DrawView(g);
   g.host->ShowScreen(Screen::Title, texts);

@@ -39,7 +39,7 @@ LevelEnd TimeMe(Game& g) {
   g.ReplayTick = Add16(g.ReplayTick, 1, "ReplayTick");
   if (g.ReplayTick == kLastReplayTick + 1) {
     g.ReplayTick = kLastReplayTick;
-    g.ReplayLog(kLastReplayTick) = "E";
+    g.ReplayLog(kLastReplayTick) = 'E';  // a char: see -Wrestrict in SetUpLevel
   }
   return LevelEnd::None;
 }

@@ -87,7 +87,7 @@ TestGame::TestGame(const LevelData& level, bool titleCard) {
   host.files["test.lvl"] = WriteLevel(level);
   g.LevelFile = "test.lvl";
   g.SkipTitle = titleCard ? False : True;
-  g.ReplayLog(0) = "E";
+  g.ReplayLog(0) = 'E';  // a char: g++ 12 -O3 misreads "E" (-Wrestrict)
   if (const LoadOutcome load = LoadLevel(g, "test.lvl"); !load.Loaded())
     throw std::runtime_error("test level refused: " + load.message);
 }

@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <array>
 
-#include "tools/commands.h"
+#include "play/commands.h"
 
 namespace qb::ui {
 namespace {

@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "ui/desktop/install_paths.h"
+
 namespace qb::ui {
 namespace {
 
@@ -22,11 +24,11 @@ QString FindProgramFolder(const QString& executableFolder, const QStringList& da
 }
 
 QStringList InstalledDataFolders(const QString& executableFolder) {
-  QStringList folders;
+  // The install's own data first, so that a second install elsewhere does not shadow it.
+  QStringList folders{QDir(executableFolder).filePath(QString::fromUtf8(kDataFolderFromBinary))};
   for (const QString& base : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
     folders << QDir(base).filePath("quorbit2");
-  folders << QDir(executableFolder).filePath("../share/quorbit2");
-  folders << QStringLiteral(QUORBIT_INSTALL_DATA_DIR);
+  folders << QString::fromUtf8(kInstalledDataFolder);
   return folders;
 }
 
