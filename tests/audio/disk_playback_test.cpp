@@ -5,7 +5,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -15,7 +14,6 @@
 #include "audio/sound_bank.h"
 #include "audio_env.h"
 #include "midi_file.h"
-#include "riff_wave.h"
 #include "score_reader.h"
 
 namespace qb {
@@ -90,27 +88,17 @@ class DiskPlayback : public ::testing::Test {
 };
 
 TEST_F(DiskPlayback, EveryEffectIsWellAboveSilence) {
-  struct Wanted {
-    const char* type;
-    int number;
-  };
-  const Wanted effects[] = {{"SOUND", 101}, {"SOUND", 102}, {"SOUND", 104}, {"SOUND", 105},
-                            {"SOUND", 106}, {"SOUND", 107}, {"SOUND", 108}, {"SOUND", 109},
-                            {"SOUND", 110}, {"SOUND", 111}, {"SOUND", 112}, {"SOUND", 113},
-                            {"SOUND", 114}, {"CUSTOM", 115}};
   // Silence first: nothing plays before an effect is asked for.
   const Level quiet = Measure(Written(), 0.2);
   EXPECT_EQ(quiet.peak, 0.0);
-  for (const auto& e : effects) {
+  for (const auto& e : test::kEffects) {
     const auto wave = test::ReadWave(FindSound(e.type, e.number));
     ASSERT_TRUE(wave);
-    const double seconds = static_cast<double>(wave->samples.size()) / wave->sampleRate;
+    const double seconds = static_cast<double>(wave->samples.size()) / wave->spec.freq;
     const size_t from = Written();
     audio_.PlayEffect(e.type, e.number);
     // The window covers the effect whatever the few buffers of delay before it starts.
     const Level level = Measure(from, seconds + 0.3);
-    std::printf("effect %s %d: %.2f s, rms %.3f, peak %.3f\n", e.type, e.number, seconds, level.rms,
-                level.peak);
     EXPECT_GT(level.peak, 0.3) << e.number;
     EXPECT_GT(level.rms, 0.02) << e.number;
   }
@@ -182,7 +170,6 @@ TEST_P(DiskMusic, TheFirstSecondsAreWellAboveSilence) {
   const size_t from = Written();
   audio_.SendMusicCommand(MusicCommand::Play);
   const Level level = Measure(from, 4.0);
-  std::printf("track %s: first 4 s rms %.3f, peak %.3f\n", GetParam(), level.rms, level.peak);
   EXPECT_GT(level.rms, 0.01);
   EXPECT_GT(level.peak, 0.05);
   audio_.SendMusicCommand(MusicCommand::Stop);

@@ -1,4 +1,4 @@
-// Walking, stepping up, turning, falling and the level's edges, run cycle by cycle.
+// Walking to the door, falls survived or not, and the level's edges, run cycle by cycle.
 #include <gtest/gtest.h>
 
 #include "support/level_builder.h"
@@ -23,25 +23,6 @@ TEST(Walking, CrowdWalksToTheDoorAndTheLevelIsWon) {
   ASSERT_FALSE(t.host.screens.empty());
   EXPECT_EQ(t.host.screens.front(), Screen::WinLevel);
   EXPECT_TRUE(t.host.PlayedSound(104));
-}
-
-TEST(Walking, SingleStepIsClimbedDiagonallyInOneTick) {
-  TestGame t(MakeLevel({"......", "......", "...#..", "######"}, 0, 2));
-  t.Ticks(3);  // released, then x=1, x=2
-  EXPECT_EQ(t.C(0).X, 2);
-  EXPECT_EQ(t.C(0).Y, 2);
-  t.Ticks(1);
-  EXPECT_EQ(t.C(0).X, 3);
-  EXPECT_EQ(t.C(0).Y, 1);
-}
-
-TEST(Walking, WallTwoHighTurnsTheCharacterInPlace) {
-  TestGame t(MakeLevel({"......", "...#..", "...#..", "######"}, 0, 2));
-  t.Ticks(4);  // at x=2 after three moves, then blocked
-  EXPECT_EQ(t.C(0).X, 2);
-  EXPECT_EQ(t.C(0).Dir, -1);
-  t.Ticks(1);
-  EXPECT_EQ(t.C(0).X, 1);
 }
 
 TEST(Walking, LeavingTheSideOfTheLevelKills) {
