@@ -1,9 +1,15 @@
-// Test helpers: choose SDL's audio driver for one test, and count the lines a log received.
+// Test helpers: choose SDL's audio driver for one test, the effects the rules play and how SDL
+// reads them, and count the lines a log received.
 #pragma once
 
+#include <SDL.h>
+
 #include <cstdlib>
+#include <optional>
+#include <span>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace qb::test {
 
@@ -19,6 +25,35 @@ class AudioDriver {
   }
   static void Set(const char* name, const std::string& value) { setenv(name, value.c_str(), 1); }
 };
+
+// Every effect the rules play: all SOUND resources from 101 to 114 but 103, and the CUSTOM jump.
+struct Effect {
+  const char* type;
+  int number;
+};
+inline constexpr Effect kEffects[] = {
+    {"SOUND", 101}, {"SOUND", 102}, {"SOUND", 104}, {"SOUND", 105}, {"SOUND", 106},
+    {"SOUND", 107}, {"SOUND", 108}, {"SOUND", 109}, {"SOUND", 110}, {"SOUND", 111},
+    {"SOUND", 112}, {"SOUND", 113}, {"SOUND", 114}, {"CUSTOM", 115}};
+
+// An effect's image read as the mixer reads it, through SDL's WAV loader: its format and, for
+// 16-bit images, its samples. Nothing when SDL cannot read it.
+struct Wave {
+  SDL_AudioSpec spec{};
+  std::vector<int16_t> samples;
+};
+inline std::optional<Wave> ReadWave(std::span<const uint8_t> bytes) {
+  Wave wave;
+  Uint8* buffer = nullptr;
+  Uint32 length = 0;
+  SDL_RWops* in = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+  if (!SDL_LoadWAV_RW(in, 1, &wave.spec, &buffer, &length)) return std::nullopt;
+  if (SDL_AUDIO_BITSIZE(wave.spec.format) == 16)
+    wave.samples.assign(reinterpret_cast<const int16_t*>(buffer),
+                        reinterpret_cast<const int16_t*>(buffer + length));
+  SDL_FreeWAV(buffer);
+  return wave;
+}
 
 inline int LineCount(const std::ostringstream& log) {
   int lines = 0;

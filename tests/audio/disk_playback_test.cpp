@@ -5,7 +5,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -15,7 +14,6 @@
 #include "audio/sound_bank.h"
 #include "audio_env.h"
 #include "midi_file.h"
-#include "riff_wave.h"
 #include "score_reader.h"
 
 namespace qb {
@@ -70,17 +68,13 @@ class DiskPlayback : public ::testing::Test {
     return level;
   }
 
-  // Plays a MIDI file once through and measures all of it.
-  Level PlayToTheEnd(const std::string& path) {
+  // Plays a MIDI file and measures its first `seconds`.
+  Level PlayMusic(const std::string& path, double seconds) {
     audio_.SetMusicFileName(path);
     audio_.SendMusicCommand(MusicCommand::Open);
     const size_t from = Written();
     audio_.SendMusicCommand(MusicCommand::Play);
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-    while (audio_.MusicMode() == kMusicModePlaying && std::chrono::steady_clock::now() < until)
-      std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    EXPECT_NE(audio_.MusicMode(), kMusicModePlaying) << path << " did not end";
-    return Measure(from, static_cast<double>(Written() - from) / kBytesPerSecond);
+    return Measure(from, seconds);
   }
 
   test::AudioDriver driver_{"disk"};
@@ -90,27 +84,17 @@ class DiskPlayback : public ::testing::Test {
 };
 
 TEST_F(DiskPlayback, EveryEffectIsWellAboveSilence) {
-  struct Wanted {
-    const char* type;
-    int number;
-  };
-  const Wanted effects[] = {{"SOUND", 101}, {"SOUND", 102}, {"SOUND", 104}, {"SOUND", 105},
-                            {"SOUND", 106}, {"SOUND", 107}, {"SOUND", 108}, {"SOUND", 109},
-                            {"SOUND", 110}, {"SOUND", 111}, {"SOUND", 112}, {"SOUND", 113},
-                            {"SOUND", 114}, {"CUSTOM", 115}};
   // Silence first: nothing plays before an effect is asked for.
   const Level quiet = Measure(Written(), 0.2);
   EXPECT_EQ(quiet.peak, 0.0);
-  for (const auto& e : effects) {
+  for (const auto& e : test::kEffects) {
     const auto wave = test::ReadWave(FindSound(e.type, e.number));
     ASSERT_TRUE(wave);
-    const double seconds = static_cast<double>(wave->samples.size()) / wave->sampleRate;
+    const double seconds = static_cast<double>(wave->samples.size()) / wave->spec.freq;
     const size_t from = Written();
     audio_.PlayEffect(e.type, e.number);
     // The window covers the effect whatever the few buffers of delay before it starts.
     const Level level = Measure(from, seconds + 0.3);
-    std::printf("effect %s %d: %.2f s, rms %.3f, peak %.3f\n", e.type, e.number, seconds, level.rms,
-                level.peak);
     EXPECT_GT(level.peak, 0.3) << e.number;
     EXPECT_GT(level.rms, 0.02) << e.number;
   }
@@ -162,12 +146,13 @@ TEST_F(DiskPlayback, TheFinalesClosingTuttiDoesNotClip) {
   text << in.rdbuf();
   const auto source = music::ReadScore(text.str());
   ASSERT_TRUE(source.errors.empty());
-  const auto bytes = music::WriteMidiFile(LastSeconds(source.score, 24));
+  const music::Score tutti = LastSeconds(source.score, 24);
+  const auto bytes = music::WriteMidiFile(tutti);
   const auto path = file_.string() + ".mid";
   std::ofstream(path, std::ios::binary)
       .write(reinterpret_cast<const char*>(bytes.data()),
              static_cast<std::streamsize>(bytes.size()));
-  const Level level = PlayToTheEnd(path);
+  const Level level = PlayMusic(path, tutti.SecondsAt(tutti.EndTick()));
   std::filesystem::remove(path);
   EXPECT_GT(level.rms, 0.05);
   EXPECT_LT(level.peak, 0.99);
@@ -177,12 +162,7 @@ TEST_F(DiskPlayback, TheFinalesClosingTuttiDoesNotClip) {
 class DiskMusic : public DiskPlayback, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(DiskMusic, TheFirstSecondsAreWellAboveSilence) {
-  audio_.SetMusicFileName(std::string(QUORBIT_MUSIC_DIR) + "/" + GetParam() + ".mid");
-  audio_.SendMusicCommand(MusicCommand::Open);
-  const size_t from = Written();
-  audio_.SendMusicCommand(MusicCommand::Play);
-  const Level level = Measure(from, 4.0);
-  std::printf("track %s: first 4 s rms %.3f, peak %.3f\n", GetParam(), level.rms, level.peak);
+  const Level level = PlayMusic(std::string(QUORBIT_MUSIC_DIR) + "/" + GetParam() + ".mid", 4.0);
   EXPECT_GT(level.rms, 0.01);
   EXPECT_GT(level.peak, 0.05);
   audio_.SendMusicCommand(MusicCommand::Stop);

@@ -1,6 +1,6 @@
 # Compiles a golden case's level, runs quorbit-sim on it with its replay and compares the trace
-# (the rules' or the view's) with the expected one line by line; on a mismatch the actual trace
-# stays in WORK.
+# (the rules' or the view's) with the expected one; on a mismatch the differences are shown and
+# the actual trace stays in WORK.
 file(MAKE_DIRECTORY ${WORK})
 execute_process(COMMAND ${LEVEL_TOOL} compile ${CASE}/level.txt -o ${WORK}/level.lvl
                 RESULT_VARIABLE compiled)
@@ -21,18 +21,7 @@ execute_process(COMMAND ${SIM} ${WORK}/level.lvl ${option} --replay ${CASE}/repl
 if(NOT status EQUAL 0)
   message(FATAL_ERROR "quorbit-sim exited with ${status}")
 endif()
-file(STRINGS ${CASE}/expected.${mode} expected)
-file(STRINGS ${actual_file} actual)
-list(LENGTH expected expected_count)
-list(LENGTH actual actual_count)
-if(NOT expected_count EQUAL actual_count)
-  message(FATAL_ERROR "${actual_count} lines instead of ${expected_count}; see ${actual_file}")
+execute_process(COMMAND diff -u ${CASE}/expected.${mode} ${actual_file} RESULT_VARIABLE differs)
+if(NOT differs EQUAL 0)
+  message(FATAL_ERROR "the trace differs from ${CASE}/expected.${mode}; see ${actual_file}")
 endif()
-math(EXPR last "${expected_count} - 1")
-foreach(i RANGE ${last})
-  list(GET expected ${i} e)
-  list(GET actual ${i} a)
-  if(NOT e STREQUAL a)
-    message(FATAL_ERROR "line ${i} differs; see ${actual_file}\nexpected: ${e}\nactual:   ${a}")
-  endif()
-endforeach()

@@ -10,19 +10,17 @@
 
 namespace qb::test {
 
+namespace {
+
+// The square kind a character stands for: its place in the legend.
 int KindOf(char ch) {
-  if (ch == '#') return SoftWall;
-  if (ch == '.') return Empty;
   static const std::string legend = ".1#okgbBMN~^!cCZDT";
   const auto p = legend.find(ch);
   if (p == std::string::npos) throw std::invalid_argument(std::string("no kind for ") + ch);
   return static_cast<int>(p);
 }
 
-char CharOf(int kind) {
-  static const std::string legend = ".1#okgbBMN~^!cCZDT";
-  return legend.at(static_cast<std::size_t>(kind));
-}
+}  // namespace
 
 LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int total, int needed,
                     int releaseInterval, int time) {

@@ -14,9 +14,6 @@ namespace qb::test {
 // 'g' soft wall 2 (5), 'b' bomb wall (6), 'B' bomb wall 2 (7), 'M' metal (8), 'N' metal 2 (9),
 // '~' water (10), '^' lava (11), 'c' crumble (13), 'C' crumble 2 (14), 'Z' electric (15),
 // 'D' exit door (16), 'T' teleport (17), '1' marker 1, '!' marker 12.
-int KindOf(char ch);
-char CharOf(int kind);
-
 // A level whose grid is `rows` (all the same length), one entrance at (ex, ey).
 LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int total = 1,
                     int needed = 1, int releaseInterval = 1, int time = 500);

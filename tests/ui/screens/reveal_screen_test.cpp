@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 
 #include "level/screens.h"
 #include "support/recorder_host.h"
@@ -51,14 +52,10 @@ class RevealScreenTest : public QObject {
  private slots:
   void revealShowsOnePartPerStep_data();
   void revealShowsOnePartPerStep();
-  void stepsAfterTheLastChangeNothing();
   void timerRunsTheRevealAndStops();
-  void wonTierFlashesYellowUntilTheEnd();
-  void wonLevelWithoutTierMessageStaysPlain();
-  void clickOrEnterClosesMidReveal();
-  void escapeAndAStrayEnterReleaseDoNotClose();
-  void showScreenReturnsWhenClickedMidReveal();
-  void wonGameClosesOnClickOrEnter();
+  void onlyAWonTierFlashesYellowUntilTheEnd();
+  void clickOrEnterClosesMidRevealEscapeDoesNot();
+  void showScreenReturnsWhenClosedMidReveal();
 };
 
 void RevealScreenTest::revealShowsOnePartPerStep_data() {
@@ -81,9 +78,9 @@ void RevealScreenTest::revealShowsOnePartPerStep() {
   QVERIFY(!Shown(d.Label1()) && !Shown(d.Line1()));
   for (int i = 0; i < lines; ++i) QVERIFY(!Shown(d.Label2(i)));
 
-  for (int step = 1; step <= lines + 3; ++step) {
+  for (int step = 1; step <= lines + 6; ++step) {  // steps after the last change nothing
     d.Step();
-    QCOMPARE(d.RevealStep(), step);
+    QCOMPARE(d.RevealStep(), std::min(step, lines + 3));
     QVERIFY(Shown(d.Label1()));
     QCOMPARE(TextColour(d.Label1()), step == 1 ? highlight : QColor(Qt::black));
     QCOMPARE(Shown(d.Line1()), step >= 2);
@@ -95,17 +92,6 @@ void RevealScreenTest::revealShowsOnePartPerStep() {
         QCOMPARE(TextColour(d.Label2(i)), step == flashesAt ? highlight : QColor(Qt::black));
     }
     QCOMPARE(d.TimerRunning(), step < lines + 3);
-  }
-}
-
-void RevealScreenTest::stepsAfterTheLastChangeNothing() {
-  RevealScreen d(Screen::WinLevel, Texts(5));
-  for (int i = 0; i < 8; ++i) d.Step();
-  QVERIFY(!d.TimerRunning());
-  for (int i = 0; i < 4; ++i) d.Step();
-  for (int i = 0; i < 5; ++i) {
-    QVERIFY(Shown(d.Label2(i)));
-    QCOMPARE(TextColour(d.Label2(i)), QColor(Qt::black));
   }
   QVERIFY(!d.Celebrating());
 }
@@ -120,8 +106,8 @@ void RevealScreenTest::timerRunsTheRevealAndStops() {
 }
 
 // Winning level 20 gives the tier message, and the window is light yellow from the first step
-// until the step that ends the reveal.
-void RevealScreenTest::wonTierFlashesYellowUntilTheEnd() {
+// until the step that ends the reveal. A won level without it, and the other screens, never are.
+void RevealScreenTest::onlyAWonTierFlashesYellowUntilTheEnd() {
   qb::test::RecorderHost host;
   qb::Game g(host);
   qb::InitTables(g);
@@ -130,79 +116,51 @@ void RevealScreenTest::wonTierFlashesYellowUntilTheEnd() {
   g.CharactersTotal = 10;
   g.CharactersNeeded = 5;
   g.SavedCount = 7;
-  const ScreenTexts texts = qb::WinLevelTexts(g);
-  RevealScreen d(Screen::WinLevel, texts);
-  const QColor plain = d.palette().color(QPalette::Window);
+  RevealScreen tier(Screen::WinLevel, qb::WinLevelTexts(g));
+  RevealScreen plainWin(Screen::WinLevel, Texts(5, ""));
+  RevealScreen lost(Screen::LooseLevel, Texts(5));
+  const QColor plain = tier.palette().color(QPalette::Window);
   QVERIFY(plain != kLightYellow);
   for (int step = 1; step <= 8; ++step) {
-    d.Step();
+    for (RevealScreen* d : {&tier, &plainWin, &lost}) d->Step();
     const bool yellow = step < 8;
-    QCOMPARE(d.Celebrating(), yellow);
-    QCOMPARE(d.palette().color(QPalette::Window), yellow ? kLightYellow : plain);
+    QCOMPARE(tier.Celebrating(), yellow);
+    QCOMPARE(tier.palette().color(QPalette::Window), yellow ? kLightYellow : plain);
+    QVERIFY(!plainWin.Celebrating() && !lost.Celebrating());
+    QCOMPARE(plainWin.palette().color(QPalette::Window), plain);
   }
 }
 
-void RevealScreenTest::wonLevelWithoutTierMessageStaysPlain() {
-  RevealScreen d(Screen::WinLevel, Texts(5, ""));
-  const QColor plain = d.palette().color(QPalette::Window);
-  for (int step = 1; step <= 8; ++step) {
-    d.Step();
-    QVERIFY(!d.Celebrating());
-    QCOMPARE(d.palette().color(QPalette::Window), plain);
-  }
-  // The title card and the lost screen never celebrate, whatever their last text.
-  RevealScreen lost(Screen::LooseLevel, Texts(3));
-  lost.Step();
-  QVERIFY(!lost.Celebrating());
-}
-
-void RevealScreenTest::clickOrEnterClosesMidReveal() {
-  {
-    RevealScreen d(Screen::Title, Texts(3));
+// A click anywhere or Enter closes a screen at any step. Esc is not a way out, and the release
+// of an Enter pressed in another window (the chooser's Play) must not close the card before the
+// player has seen it.
+void RevealScreenTest::clickOrEnterClosesMidRevealEscapeDoesNot() {
+  const std::vector<std::function<void(RevealScreen&)>> closes = {
+      [](RevealScreen& d) { QTest::mouseClick(&d, Qt::LeftButton, {}, QPoint(5, 5)); },
+      [](RevealScreen& d) { QTest::mouseClick(d.Label2(0), Qt::LeftButton); },
+      [](RevealScreen& d) { QTest::keyClick(&d, Qt::Key_Return); },
+      [](RevealScreen& d) { QTest::keyClick(&d, Qt::Key_Enter, Qt::KeypadModifier); }};
+  const Screen kinds[] = {Screen::Title, Screen::WinLevel, Screen::LooseLevel, Screen::Title};
+  for (std::size_t i = 0; i < closes.size(); ++i) {
+    RevealScreen d(kinds[i], Texts(3));
     d.show();
-    d.Step();
-    QTest::mouseClick(&d, Qt::LeftButton, {}, QPoint(5, 5));
+    for (int i = 0; i < 3; ++i) d.Step();
+    QTest::keyClick(&d, Qt::Key_Escape);
+    QTest::keyRelease(&d, Qt::Key_Return);
+    QTest::keyClick(&d, Qt::Key_A);
+    QVERIFY(d.isVisible());
+    closes[i](d);
     QVERIFY(!d.isVisible());
     QCOMPARE(d.result(), int(QDialog::Accepted));
   }
-  {
-    RevealScreen d(Screen::WinLevel, Texts(5));
-    d.show();
-    for (int i = 0; i < 3; ++i) d.Step();
-    QTest::mouseClick(d.Label2(0), Qt::LeftButton);
-    QVERIFY(!d.isVisible());
-  }
-  {
-    RevealScreen d(Screen::LooseLevel, Texts(3));
-    d.show();
-    d.Step();
-    d.Step();
-    QTest::keyClick(&d, Qt::Key_Return);
-    QVERIFY(!d.isVisible());
-    QVERIFY(d.RevealStep() < 6);
-  }
-  {
-    RevealScreen d(Screen::Title, Texts(3));
-    d.show();
-    QTest::keyClick(&d, Qt::Key_Enter, Qt::KeypadModifier);
-    QVERIFY(!d.isVisible());
-  }
+  qb::ui::WonGameScreen won(qb::WonGameTexts());
+  QCOMPARE(won.Label1()->text(), QStringLiteral("Well Done!"));
+  won.show();
+  QTest::mouseClick(won.Label2(), Qt::LeftButton);
+  QVERIFY(!won.isVisible());
 }
 
-// Esc is not a way out, and the release of an Enter pressed in another window (the chooser's
-// Play) must not close the card before the player has seen it.
-void RevealScreenTest::escapeAndAStrayEnterReleaseDoNotClose() {
-  RevealScreen d(Screen::Title, Texts(3));
-  d.show();
-  QTest::keyClick(&d, Qt::Key_Escape);
-  QVERIFY(d.isVisible());
-  QTest::keyRelease(&d, Qt::Key_Return);
-  QVERIFY(d.isVisible());
-  QTest::keyClick(&d, Qt::Key_A);
-  QVERIFY(d.isVisible());
-}
-
-void RevealScreenTest::showScreenReturnsWhenClickedMidReveal() {
+void RevealScreenTest::showScreenReturnsWhenClosedMidReveal() {
   int stepWhenClicked = -1;
   WhenModalUp([&](QWidget* w) {
     auto* d = qobject_cast<RevealScreen*>(w);
@@ -213,24 +171,12 @@ void RevealScreenTest::showScreenReturnsWhenClickedMidReveal() {
   qb::ui::ShowScreen(nullptr, Screen::LooseLevel, Texts(3));
   QVERIFY(stepWhenClicked >= 0 && stepWhenClicked < 6);
   QVERIFY(!QApplication::activeModalWidget());
-}
-
-void RevealScreenTest::wonGameClosesOnClickOrEnter() {
-  const ScreenTexts texts = qb::WonGameTexts();
-  {
-    qb::ui::WonGameScreen d(texts);
-    QCOMPARE(d.Label1()->text(), QStringLiteral("Well Done!"));
-    QVERIFY(d.Label2()->text().startsWith(QStringLiteral("You have completed Quorbit 2.")));
-    d.show();
-    QTest::mouseClick(d.Label2(), Qt::LeftButton);
-    QVERIFY(!d.isVisible());
-  }
   bool sawWonGame = false;
   WhenModalUp([&](QWidget* w) {
     sawWonGame = qobject_cast<qb::ui::WonGameScreen*>(w) != nullptr;
     QTest::keyClick(w, Qt::Key_Return);
   });
-  qb::ui::ShowScreen(nullptr, Screen::WonGame, texts);
+  qb::ui::ShowScreen(nullptr, Screen::WonGame, qb::WonGameTexts());
   QVERIFY(sawWonGame);
 }
 

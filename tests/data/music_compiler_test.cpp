@@ -29,11 +29,6 @@ std::vector<int> Starts(const Track& t) {
   return starts;
 }
 
-std::string FirstError(const std::string& text) {
-  const auto result = ReadScore(text);
-  return result.errors.empty() ? "" : result.errors.front();
-}
-
 TEST(NoteNotation, PitchesOctavesAndAccidentals) {
   EXPECT_EQ(Keys(Compile("o4 c d e f g a b > c")),
             (std::vector<int>{60, 62, 64, 65, 67, 69, 71, 72}));
@@ -77,23 +72,6 @@ TEST(NoteNotation, RepeatsAndDefinesExpandInPlace) {
   EXPECT_EQ(Keys(multi), (std::vector<int>{60, 74, 72}));
 }
 
-TEST(NoteNotation, TrackSettingsAndProgramChanges) {
-  const auto result = ReadScore(
-      "track name=Brass channel=10 program=trumpet volume=90 pan=20 reverb=5 chorus=7\n"
-      "c4 @timpani d4 @12 e4\n");
-  ASSERT_TRUE(result.errors.empty()) << result.errors.front();
-  const auto& t = result.score.tracks[0];
-  EXPECT_EQ(t.name, "Brass");
-  EXPECT_EQ(t.channel, 10);
-  EXPECT_EQ(t.program, 56);
-  EXPECT_EQ(t.volume, 90);
-  EXPECT_EQ(t.pan, 20);
-  ASSERT_EQ(t.programChanges.size(), 2u);
-  EXPECT_EQ(t.programChanges[0].tick, Q);
-  EXPECT_EQ(t.programChanges[0].program, 47);
-  EXPECT_EQ(t.programChanges[1].program, 12);
-}
-
 TEST(NoteNotation, TempoChangesFromAnyTrackShapeTheTiming) {
   const auto result = ReadScore(
       "tempo 120\n"
@@ -108,28 +86,32 @@ TEST(NoteNotation, TempoChangesFromAnyTrackShapeTheTiming) {
 }
 
 TEST(NoteNotation, MistakesAreReportedWithTheirLine) {
-  const auto bar = FirstError("meter 3/4\ntrack\n c4 c4 c4 |\n c4 c4 |\n");
-  EXPECT_NE(bar.find("line 4"), std::string::npos) << bar;
-  EXPECT_NE(bar.find("bar check"), std::string::npos) << bar;
-  EXPECT_NE(FirstError("track\n c4 $nope\n").find("no define named 'nope'"), std::string::npos);
-  EXPECT_NE(FirstError("define loop c $loop\ntrack\n $loop\n").find("nest too deep"),
-            std::string::npos);
-  EXPECT_NE(FirstError("track\n c5 c7\n").find("does not divide"), std::string::npos);
-  EXPECT_NE(FirstError("track\n (c d\n").find("'(' without its ')'"), std::string::npos);
-  EXPECT_NE(FirstError("track\n [c e\n").find("without its ']'"), std::string::npos);
-  EXPECT_NE(FirstError("track\n c ^4\n r ^4\n").find("line 3"), std::string::npos);
-  EXPECT_NE(FirstError("track\n o9 b\n").find("MIDI range"), std::string::npos);
-  EXPECT_NE(FirstError("track program=kazoo\n c\n").find("kazoo"), std::string::npos);
-  EXPECT_NE(FirstError("c d e\n").find("outside a track"), std::string::npos);
-  EXPECT_NE(FirstError("tempo 0\ntrack\n c\n").find("tempo"), std::string::npos);
-  EXPECT_NE(FirstError("title nothing\n").find("no track"), std::string::npos);
-  EXPECT_NE(FirstError("track\n c w\n").find("unexpected 'w'"), std::string::npos);
+  const std::pair<const char*, const char*> cases[] = {
+      {"meter 3/4\ntrack\n c4 c4 c4 |\n c4 c4 |\n", "line 4: track : bar check"},
+      {"track\n c4 $nope\n", "no define named 'nope'"},
+      {"define loop c $loop\ntrack\n $loop\n", "nest too deep"},
+      {"track\n c5 c7\n", "does not divide"},
+      {"track\n (c d\n", "'(' without its ')'"},
+      {"track\n [c e\n", "without its ']'"},
+      {"track\n c ^4\n r ^4\n", "line 3"},
+      {"track\n o9 b\n", "MIDI range"},
+      {"track program=kazoo\n c\n", "kazoo"},
+      {"c d e\n", "outside a track"},
+      {"tempo 0\ntrack\n c\n", "tempo"},
+      {"title nothing\n", "no track"},
+      {"track\n c w\n", "unexpected 'w'"}};
+  for (const auto& [text, message] : cases) {
+    const auto result = ReadScore(text);
+    ASSERT_FALSE(result.errors.empty()) << text;
+    EXPECT_NE(result.errors.front().find(message), std::string::npos) << result.errors.front();
+  }
 }
 
 TEST(MidiFileWriter, WritesAFormat1FileThatReadsBackNoteForNote) {
   const auto result = ReadScore(
       "title Test\ntempo 90\nmeter 3/4\n"
-      "track name=Tune channel=3 program=flute volume=77 pan=10\n q100 v90 c4 e8 g8 t180 [c e]2\n"
+      "track name=Tune channel=3 program=flute volume=77 pan=10\n q100 v90 c4 e8 g8 t180 @timpani "
+      "[c e]2\n"
       "track name=Drums channel=10\n K2. K4\n");
   ASSERT_TRUE(result.errors.empty());
   std::string why;
@@ -144,9 +126,10 @@ TEST(MidiFileWriter, WritesAFormat1FileThatReadsBackNoteForNote) {
     int key, on, off, channel;
   };
   std::vector<Sounding> notes;
-  int program = -1, volume = -1;
+  std::vector<int> programs;  // the track's own, then a change inside it
+  int volume = -1;
   for (const auto& e : file->tracks[1].events) {
-    if (e.Kind() == 0xC0) program = e.data1;
+    if (e.Kind() == 0xC0) programs.push_back(e.data1);
     if (e.Kind() == 0xB0 && e.data1 == 7) volume = e.data2;
     if (e.Kind() == 0x90 && e.data2 > 0) notes.push_back({e.data1, e.tick, -1, e.Channel()});
     if (e.Kind() == 0x80 || (e.Kind() == 0x90 && e.data2 == 0))
@@ -156,7 +139,7 @@ TEST(MidiFileWriter, WritesAFormat1FileThatReadsBackNoteForNote) {
           break;
         }
   }
-  EXPECT_EQ(program, 73);
+  EXPECT_EQ(programs, (std::vector<int>{73, 47}));
   EXPECT_EQ(volume, 77);
   ASSERT_EQ(notes.size(), 5u);
   EXPECT_EQ(notes[0].channel, 3);

@@ -17,22 +17,7 @@ LevelData Corridor(int time) {
   return MakeLevel({std::string(60, '.'), std::string(60, '#')}, 0, 0, 1, 1, 200, time);
 }
 
-TEST(LevelTimer, TimeRunsOutAfterTwiceTheTimePlusOneCyclesAndTheLabelBlinks) {
-  TestGame t(Corridor(40));
-  t.Ticks(2 * 40);
-  EXPECT_EQ(t.g.TimeLeft, 0);
-  EXPECT_EQ(t.g.ui.Label5Caption, "\nTime Left\n0");
-  EXPECT_EQ(t.g.ui.Label5Back, kTimeWarning);  // 0 is even
-  t.Ticks(1);
-  EXPECT_EQ(t.g.LastEnd, LevelEnd::Timeout);
-  ASSERT_FALSE(t.host.screens.empty());
-  EXPECT_EQ(t.host.screens[0], Screen::LooseLevel);
-  // Reloaded with its title card, which discards the recording.
-  EXPECT_EQ(t.host.screens.back(), Screen::Title);
-  EXPECT_EQ(t.g.TimeLeft, 40);
-}
-
-TEST(LevelTimer, BlinksOnlyInTheWarningPhase) {
+TEST(LevelTimer, BlinksInTheWarningPhaseAndRunsOutAfterTwiceTheTimePlusOneCycles) {
   TestGame t(Corridor(40));
   t.Ticks(17);  // time 31
   EXPECT_EQ(t.g.ui.Label5Back, kSystemWindow);
@@ -40,6 +25,18 @@ TEST(LevelTimer, BlinksOnlyInTheWarningPhase) {
   EXPECT_EQ(t.g.ui.Label5Back, kTimeWarning);
   t.Ticks(2);  // 29: window colour
   EXPECT_EQ(t.g.ui.Label5Back, kSystemWindow);
+  t.Ticks(2 * 40 - 21);
+  EXPECT_EQ(t.g.TimeLeft, 0);
+  EXPECT_EQ(t.g.ui.Label5Caption, "\nTime Left\n0");
+  EXPECT_EQ(t.g.ui.Label5Back, kTimeWarning);  // 0 is even
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::None);
+  t.Ticks(1);
+  EXPECT_EQ(t.g.LastEnd, LevelEnd::Timeout);
+  ASSERT_FALSE(t.host.screens.empty());
+  EXPECT_EQ(t.host.screens[0], Screen::LooseLevel);
+  // Reloaded with its title card, which discards the recording.
+  EXPECT_EQ(t.host.screens.back(), Screen::Title);
+  EXPECT_EQ(t.g.TimeLeft, 40);
 }
 
 // A game whose level files are one-character walks to a door, for every tier and number.
