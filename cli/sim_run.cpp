@@ -81,6 +81,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.ui.OptionsChecked(OptFastScrolling) = false;
   g.ui.OptionsChecked(OptMusic) = false;
   g.SkipTitle = True;
+  g.Drawing = options.drawing;
   g.LevelFile = options.level;
   if (const LoadOutcome load = LoadLevel(g, options.level); !load.Loaded()) {
     err << load.message << "\n";

@@ -13,6 +13,7 @@ struct SimOptions {
   std::optional<std::string> replay;  // replay file text
   long maxCycles = 100000;
   bool trace = false;
+  bool drawing = true;  // off: the rules run without painting the pictures
 };
 
 struct SimOutcome {

@@ -56,6 +56,8 @@ class GridTable {
   }
   static bool Contains(int x, int y) { return x >= 0 && x < kColumns && y >= 0 && y < kRows; }
   void Fill(int16_t v) { cells_.fill(v); }
+  // All squares, row by row, for whole-grid reads such as hashing.
+  const int16_t* Cells() const { return cells_.data(); }
   bool operator==(const GridTable& o) const { return cells_ == o.cells_; }
 
  private:
