@@ -50,6 +50,7 @@ double Percent(int part, int whole) {
 std::string WinsText(const SingleToolWins& w) {
   std::string name(1, kReplayLetters[w.tool]);
   if (w.cycles.empty()) return name + " never";
+  if (w.cycles.size() == 1) return name + " at 1 cycle (" + std::to_string(w.cycles[0]) + ")";
   return name + " at " + std::to_string(w.cycles.size()) + " cycles (" +
          std::to_string(w.cycles.front()) + ".." + std::to_string(w.cycles.back()) + ")";
 }
