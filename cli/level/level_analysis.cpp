@@ -59,9 +59,11 @@ void PrintText(std::ostream& out, const std::string& level, const Analysis& a, d
   out << level << ": " << EndName(a.result) << ", saved " << a.result.saved << " / needed "
       << a.needed << " / total " << a.total << ", " << a.result.cycles << " of " << a.limit
       << " cycles\n";
-  out << "presses: " << a.presses.size()
-      << ", with a window of one cycle: " << CountWidthOne(a, false) << " moved alone, "
-      << CountWidthOne(a, true) << " moved with the later ones\n";
+  if (!a.result.Won()) out << "no windows: the solution does not win\n";
+  if (a.result.Won())
+    out << "presses: " << a.presses.size()
+        << ", with a window of one cycle: " << CountWidthOne(a, false) << " moved alone, "
+        << CountWidthOne(a, true) << " moved with the later ones\n";
   for (const PressFigures& f : a.presses)
     out << "  cycle " << f.press.cycle << " " << f.press.letter << ": alone " << Range(f.alone)
         << ", with the later ones " << Range(f.shifted) << (f.redundant ? ", redundant" : "")
