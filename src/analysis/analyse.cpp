@@ -3,8 +3,6 @@
 
 #include <functional>
 
-#include "play/cycle.h"
-
 namespace qb::analysis {
 
 namespace {
@@ -56,13 +54,13 @@ std::vector<SingleToolWins> SingleToolShortcuts(const Game& start, long& runs) {
   Schedule(g, {});
   while (true) {
     Game next = g;
-    const LevelEnd end = RunCycle(next);
+    const LevelEnd end = PlayCycle(next);
     const uint64_t plain = StateHash(next);
     for (SingleToolWins& w : wins) {
       Game b = g;
       b.ReplayLog(b.ReplayTick) = std::string(1, kReplayLetters[w.tool]);
       const int cycle = b.ReplayTick;
-      const LevelEnd first = RunCycle(b);
+      const LevelEnd first = PlayCycle(b);
       ++runs;
       // A press the game refuses leaves the game as no press does.
       if (first == end && StateHash(b) == plain) continue;

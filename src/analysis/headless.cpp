@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "play/cycle.h"
+
 namespace qb::analysis {
 
 void MakeHeadless(Game& g) {
@@ -46,6 +48,14 @@ std::string ReplayText(const Presses& presses) {
 void SortByCycle(Presses& presses) {
   std::stable_sort(presses.begin(), presses.end(),
                    [](const Press& a, const Press& b) { return a.cycle < b.cycle; });
+}
+
+LevelEnd PlayCycle(Game& g) {
+  try {
+    return RunCycle(g);
+  } catch (const ProgramFault&) {
+    return LevelEnd::Lost;
+  }
 }
 
 int CycleLimit(const Game& loaded) {

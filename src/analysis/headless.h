@@ -31,6 +31,10 @@ std::string ReplayText(const Presses& presses);
 // Sorts by cycle, keeping the order of one cycle's letters.
 void SortByCycle(Presses& presses);
 
+// One cycle, as RunCycle; a fault of the rules ends the level as lost, so that a search or an
+// analysis counts that play as no win and goes on.
+LevelEnd PlayCycle(Game& g);
+
 // The cycles a freshly loaded level runs before its time runs out.
 int CycleLimit(const Game& loaded);
 

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "play/cycle.h"
-
 namespace qb::analysis {
 
 namespace {
@@ -23,7 +21,7 @@ void MarkVisits(const Game& g, std::vector<bool>& visited) {
 Outcome RunToEnd(Game& g, int maxCycles) {
   Outcome o;
   while (o.cycles < maxCycles) {
-    o.end = RunCycle(g);
+    o.end = PlayCycle(g);
     ++o.cycles;
     if (Ended(o.end) || !CanStillWin(g)) break;
   }
@@ -52,7 +50,7 @@ Replayer::Replayer(const Game& start, Presses base, int copies) : base_(std::mov
   Game g = first;
   while (true) {
     if (baseOutcome_.cycles % stride_ == 0) copies_.push_back(std::make_unique<Game>(g));
-    baseOutcome_.end = RunCycle(g);
+    baseOutcome_.end = PlayCycle(g);
     ++baseOutcome_.cycles;
     MarkVisits(g, visited_);
     if (Ended(baseOutcome_.end) || !CanStillWin(g) || baseOutcome_.cycles >= kMaxRun) break;

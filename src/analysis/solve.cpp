@@ -4,8 +4,6 @@
 #include <chrono>
 #include <unordered_map>
 
-#include "play/cycle.h"
-
 namespace qb::analysis {
 
 namespace {
@@ -27,7 +25,7 @@ class Search {
     while (true) {
       if ((++states_ & 255) == 0 && Clock::now() > deadline_) throw TimeUp{};
       Game next = g;
-      const LevelEnd end = RunCycle(next);
+      const LevelEnd end = PlayCycle(next);
       if (end == LevelEnd::Won) return true;
       // The game without a press this cycle: if it was reached before with at least as many
       // presses left, everything after it has been searched.
@@ -50,7 +48,7 @@ class Search {
     const Press press{b.ReplayTick, kReplayLetters[tool]};
     b.ReplayLog(press.cycle) = std::string(1, press.letter);
     ++states_;
-    const LevelEnd end = RunCycle(b);
+    const LevelEnd end = PlayCycle(b);
     path_.push_back(press);
     if (end == LevelEnd::Won) return true;
     // A refused press leaves the state the plain cycle reached, remembered with more left.

@@ -117,6 +117,22 @@ TEST(Analysis, OneBuildWinsAtEveryPassOfItsSquare) {
   EXPECT_EQ(wins[0].cycles, passes);
 }
 
+// A slowed jump from the third row rises off the grid, a fault of the rules: a play that faults
+// counts as not won, and the analysis goes on.
+TEST(Analysis, APlayThatFaultsCountsAsNoWin) {
+  LevelData d = test::MakeLevel({"M.......M", "M.......M", "M.......M", "MMMMMMMMM"}, 1, 2);
+  d.ToolStock[ToolJump] = d.ToolStock[ToolSlow] = 1;
+  Headless level(d);
+  const Presses slowJump = {{4, 'R'}, {4, 'J'}};
+  Game whole = level.g;
+  Schedule(whole, slowJump);
+  EXPECT_THROW(  // as the game plays it
+      while (!Ended(RunCycle(whole))){}, ProgramFault);
+  const Analysis a = Analyse(level.g, slowJump);
+  EXPECT_FALSE(a.result.Won());
+  EXPECT_FALSE(Solve(level.g, {2, 60}).result == SolveResult::Found);
+}
+
 // A variation played from a kept copy of the game ends as the same variation played whole.
 TEST(Analysis, VariationsFromKeptCopiesMatchWholeReplays) {
   Headless level(TwoWalls(2, 1));
