@@ -120,7 +120,8 @@ TEST(Analysis, OneBuildWinsAtEveryPassOfItsSquare) {
 // A slowed jump from the third row rises off the grid, a fault of the rules: a play that faults
 // counts as not won, and the analysis goes on.
 TEST(Analysis, APlayThatFaultsCountsAsNoWin) {
-  LevelData d = test::MakeLevel({"M.......M", "M.......M", "M.......M", "MMMMMMMMM"}, 1, 2);
+  LevelData d =
+      test::MakeLevel({"M.......M", "M.......M", "M.......M", "MMMMMMMMM"}, 1, 2, 1, 1, 1, 30);
   d.ToolStock[ToolJump] = d.ToolStock[ToolSlow] = 1;
   Headless level(d);
   const Presses slowJump = {{4, 'R'}, {4, 'J'}};
