@@ -79,8 +79,23 @@ void PrintText(std::ostream& out, const std::string& level, const Analysis& a, d
   out << "\n" << a.runs << " plays in " << std::setprecision(2) << seconds << " s\n";
 }
 
+// A file name as a JSON string: quotes, backslashes and control characters escaped.
+std::string JsonString(const std::string& text) {
+  std::string out = "\"";
+  for (char c : text) {
+    if (c == '"' || c == '\\') out += '\\';
+    if (static_cast<unsigned char>(c) < 0x20) {
+      static const char* const kHex = "0123456789abcdef";
+      out += std::string("\\u00") + kHex[(c >> 4) & 0xF] + kHex[c & 0xF];
+      continue;
+    }
+    out += c;
+  }
+  return out + "\"";
+}
+
 void PrintJson(std::ostream& out, const std::string& level, const Analysis& a, double seconds) {
-  out << "{\"level\":\"" << level << "\",\"result\":\"" << EndName(a.result)
+  out << "{\"level\":" << JsonString(level) << ",\"result\":\"" << EndName(a.result)
       << "\",\"saved\":" << a.result.saved << ",\"needed\":" << a.needed << ",\"total\":" << a.total
       << ",\"cycles\":" << a.result.cycles << ",\"limit\":" << a.limit << "}\n";
   for (std::size_t i = 0; i < a.presses.size(); ++i) {
