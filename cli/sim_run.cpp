@@ -83,6 +83,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
   g.ui.OptionsChecked(OptMusic) = false;
   g.ui.OptionsChecked(OptShowChange) = false;  // the view never moves, so view traces compare
   g.SkipTitle = True;
+  g.Drawing = options.drawing;
   g.LevelFile = options.level;
   if (const LoadOutcome load = LoadLevel(g, options.level); !load.Loaded()) {
     err << load.message << "\n";

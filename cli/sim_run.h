@@ -14,6 +14,7 @@ struct SimOptions {
   long maxCycles = 100000;
   bool trace = false;      // the rules' state after every cycle
   bool traceView = false;  // what the player sees after every cycle
+  bool drawing = true;     // off: the rules run without painting the pictures
 };
 
 struct SimOutcome {

@@ -34,7 +34,12 @@ class Table {
 
  private:
   void Check(int i) const {
-    if (i < 0 || i >= N) throw RangeFault(name_, std::to_string(i));
+    if (i < 0 || i >= N) [[unlikely]]
+      Fail(i);
+  }
+  // Out of line, so that the check itself stays small enough to inline in the hot loops.
+  [[noreturn, gnu::cold, gnu::noinline]] void Fail(int i) const {
+    throw RangeFault(name_, std::to_string(i));
   }
   const char* name_;
   std::array<T, N> items_{};
@@ -56,11 +61,17 @@ class GridTable {
   }
   static bool Contains(int x, int y) { return x >= 0 && x < kColumns && y >= 0 && y < kRows; }
   void Fill(int16_t v) { cells_.fill(v); }
+  // All squares, row by row, for whole-grid reads such as hashing.
+  const int16_t* Cells() const { return cells_.data(); }
   bool operator==(const GridTable& o) const { return cells_ == o.cells_; }
 
  private:
   static void Check(int x, int y) {
-    if (!Contains(x, y)) throw RangeFault("Grid", std::to_string(x) + ", " + std::to_string(y));
+    if (!Contains(x, y)) [[unlikely]]
+      Fail(x, y);
+  }
+  [[noreturn, gnu::cold, gnu::noinline]] static void Fail(int x, int y) {
+    throw RangeFault("Grid", std::to_string(x) + ", " + std::to_string(y));
   }
   std::array<int16_t, kColumns * kRows> cells_{};
 };

@@ -29,6 +29,9 @@ struct Game : GameState {
   Host* host;
   std::string ProgramFolder = ".";    // the folder that holds Levels/ and Music/
   LevelEnd LastEnd = LevelEnd::None;  // how the last level ended
+  // Off: the rules run without painting; the pictures are left untouched (searches and
+  // analyses that never show the game).
+  bool Drawing = true;
 
   bool Sound() const { return ui.Option(OptSound); }
 };

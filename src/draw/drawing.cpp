@@ -14,12 +14,14 @@ Colour CharColour(const Game& g, int index) {
 }
 
 void DrawView(Game& g) {
-  g.pic.Picture1.Clear();
-  for (int x = g.ViewX; x <= g.ViewX + kViewSize - 1; ++x)
-    for (int y = g.ViewY; y <= g.ViewY + kViewSize - 1; ++y) {
-      const int k = g.Grid(x, y);
-      if (k != Empty) g.pic.Picture1.Fill(x - g.ViewX, y - g.ViewY, g.SquareColour(k));
-    }
+  if (g.Drawing) {
+    g.pic.Picture1.Clear();
+    for (int x = g.ViewX; x <= g.ViewX + kViewSize - 1; ++x)
+      for (int y = g.ViewY; y <= g.ViewY + kViewSize - 1; ++y) {
+        const int k = g.Grid(x, y);
+        if (k != Empty) g.pic.Picture1.Fill(x - g.ViewX, y - g.ViewY, g.SquareColour(k));
+      }
+  }
   g.ui.HScrollMax = g.GridWidth - kViewSize;
   g.ui.VScrollMax = g.GridHeight - kViewSize;
   // Setting a scroll bar's value runs its change handler when the value changes.
@@ -37,6 +39,7 @@ void DrawView(Game& g) {
 }
 
 void DrawViewFrame(Game& g, bool show) {
+  if (!g.Drawing) return;
   MapPicture& m = g.pic.Map;
   if (!show) {
     // The white box whitens the dots under the frame line.
@@ -59,6 +62,7 @@ void DrawSquare(Game& g, int x, int y, int kind) {
   if (!GridTable::Contains(x, y)) return;
   const Colour colour = g.SquareColour(kind);
   g.Grid(x, y) = static_cast<int16_t>(kind);
+  if (!g.Drawing) return;
   g.pic.Backing.SetDot(x, y, colour);
   g.pic.Map.SetDot(x, y, colour);
   if (kind == Empty) {
@@ -74,6 +78,7 @@ void DrawSquare(Game& g, int x, int y, int kind) {
 }
 
 void DrawBlock(Game& g, int x, int y, Colour colour) {
+  if (!g.Drawing) return;
   if (colour != QBColor(14)) {
     for (int i = g.CharactersTotal - 1; i >= 0; --i) {
       const CharRecord& c = g.Chars(i);
@@ -87,10 +92,12 @@ void DrawBlock(Game& g, int x, int y, Colour colour) {
 }
 
 void DrawChar(Game& g, int index) {
+  if (!g.Drawing) return;
   DrawCharIn(g, index, CharColour(g, index));
 }
 
 void DrawCharIn(Game& g, int index, Colour colour) {
+  if (!g.Drawing) return;
   const CharRecord& c = g.Chars(index);
   g.pic.Map.SetDot(c.X, c.Y, colour);
   const int vx = c.X - g.ViewX, vy = c.Y - g.ViewY;
@@ -101,6 +108,7 @@ void DrawCharIn(Game& g, int index, Colour colour) {
 }
 
 void EraseChar(Game& g, int index) {
+  if (!g.Drawing) return;
   const CharRecord& c = g.Chars(index);
   const Colour background = g.SquareColour(g.Grid(c.X, c.Y));
   // While a bomb is primed the leader carrying it is not drawn back in.
@@ -136,11 +144,12 @@ void PaintIfInGrid(Game& g, int x, int y, Colour colour) {
 
 namespace {
 void AfterScroll(Game& g) {
-  g.pic.Map = [&] {
-    MapPicture copy = g.pic.Backing;  // the clean overview, without the old frame
-    copy.version = g.pic.Map.version + 1;
-    return copy;
-  }();
+  if (g.Drawing)
+    g.pic.Map = [&] {
+      MapPicture copy = g.pic.Backing;  // the clean overview, without the old frame
+      copy.version = g.pic.Map.version + 1;
+      return copy;
+    }();
   DrawViewFrame(g, true);
   DrawView(g);
 }

@@ -102,15 +102,10 @@ void ResetLevelState(Game& g) {
   g.NextEntrance = -1;
 }
 
-void SetUpLevel(Game& g) {
-  g.SettingUp = True;
-  g.SlowToggle = False;
-  ResetLevelState(g);
-  g.ui.Caption =
-      "Quorbit 2 - " + g.SkillName(g.CurrentSkill) + ", Level " + std::to_string(g.LevelNumber);
+namespace {
 
-  g.ui.MapWidthTwips = g.GridWidth / 120.0 * 3135;
-  g.ui.MapHeightTwips = g.GridHeight / 80.0 * 1935;
+// The overview map of the whole level, without the view's frame.
+void DrawOverview(Game& g) {
   g.pic.Map.Resize(g.GridWidth, g.GridHeight);
   g.pic.Backing.Resize(g.GridWidth, g.GridHeight);
   g.pic.Map.Clear();
@@ -124,6 +119,20 @@ void SetUpLevel(Game& g) {
   g.pic.Map = g.pic.Backing;
   g.pic.Map.frameShown = false;
   g.pic.Map.version = version + 1;
+}
+
+}  // namespace
+
+void SetUpLevel(Game& g) {
+  g.SettingUp = True;
+  g.SlowToggle = False;
+  ResetLevelState(g);
+  g.ui.Caption =
+      "Quorbit 2 - " + g.SkillName(g.CurrentSkill) + ", Level " + std::to_string(g.LevelNumber);
+
+  g.ui.MapWidthTwips = g.GridWidth / 120.0 * 3135;
+  g.ui.MapHeightTwips = g.GridHeight / 80.0 * 1935;
+  if (g.Drawing) DrawOverview(g);
 
   for (int t = 0; t < kToolCount; ++t) {
     g.ui.Label1Back(t) = kWhite;

@@ -32,10 +32,12 @@ LevelEnd UpdateInOut(Game& g) {
 
   g.ui.Timer1Enabled = false;
   g.ui.Timer3Enabled = false;
-  g.pic.Picture1.Clear();
-  g.pic.Backing.Clear();
-  if (g.SavedCount < g.CharactersNeeded) {
+  if (g.Drawing) {
     g.pic.Picture1.Clear();
+    g.pic.Backing.Clear();
+  }
+  if (g.SavedCount < g.CharactersNeeded) {
+    if (g.Drawing) g.pic.Picture1.Clear();
     g.SkipTitle = False;
     g.LastEnd = LevelEnd::Lost;
   } else {

@@ -10,7 +10,7 @@ LevelEnd DecreaseTimer(Game& g) {
   if (g.TimeLeft <= 30) g.ui.Label5Back = (g.TimeLeft % 2 == 0) ? kTimeWarning : kSystemWindow;
   if (g.TimeLeft == -1) {
     g.ui.Timer1Enabled = false;
-    g.pic.Picture1.Clear();
+    if (g.Drawing) g.pic.Picture1.Clear();
     g.SkipTitle = False;
     g.LastEnd = LevelEnd::Timeout;
     return g.LastEnd;

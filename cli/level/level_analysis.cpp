@@ -1,0 +1,264 @@
+// The analysis subcommands of quorbit-level: analyse and solve.
+#include "level_analysis.h"
+
+#include <chrono>
+#include <cmath>
+#include <iomanip>
+#include <memory>
+#include <ostream>
+#include <sstream>
+
+#include "analysis/analyse.h"
+#include "analysis/solve.h"
+#include "core/file_read.h"
+#include "level/loader.h"
+#include "level_files.h"
+#include "play/replay.h"
+
+namespace qb::leveltext {
+namespace {
+
+using namespace qb::analysis;
+
+const char* EndName(const Outcome& o) {
+  switch (o.end) {
+    case LevelEnd::Won:
+      return "won";
+    case LevelEnd::Lost:
+      return "lost";
+    case LevelEnd::Timeout:
+      return "timeout";
+    default:
+      return "lost";  // stopped once too few could still be saved
+  }
+}
+
+std::string Range(const Window& w) {
+  return std::to_string(w.earliest) + ".." + std::to_string(w.latest) + " (" +
+         std::to_string(w.Width()) + ")";
+}
+
+int CountWidthOne(const Analysis& a, bool shifted) {
+  int n = 0;
+  for (const PressFigures& f : a.presses) n += (shifted ? f.shifted : f.alone).Width() == 1;
+  return n;
+}
+
+double Percent(int part, int whole) {
+  return whole > 0 ? 100.0 * part / whole : 0.0;
+}
+
+std::string WinsText(const SingleToolWins& w) {
+  std::string name(1, kReplayLetters[w.tool]);
+  if (w.cycles.empty()) return name + " never";
+  if (w.cycles.size() == 1) return name + " at 1 cycle (" + std::to_string(w.cycles[0]) + ")";
+  return name + " at " + std::to_string(w.cycles.size()) + " cycles (" +
+         std::to_string(w.cycles.front()) + ".." + std::to_string(w.cycles.back()) + ")";
+}
+
+void PrintText(std::ostream& out, const std::string& level, const Analysis& a, double seconds) {
+  out << level << ": " << EndName(a.result) << ", saved " << a.result.saved << " / needed "
+      << a.needed << " / total " << a.total << ", " << a.result.cycles << " of " << a.limit
+      << " cycles\n";
+  if (!a.result.Won()) out << "no windows: the solution does not win\n";
+  if (a.result.Won())
+    out << "presses: " << a.presses.size()
+        << ", with a window of one cycle: " << CountWidthOne(a, false) << " moved alone, "
+        << CountWidthOne(a, true) << " moved with the later ones\n";
+  for (const PressFigures& f : a.presses)
+    out << "  cycle " << f.press.cycle << " " << f.press.letter << ": alone " << Range(f.alone)
+        << ", with the later ones " << Range(f.shifted) << (f.redundant ? ", redundant" : "")
+        << "\n";
+  out << "no tools: " << EndName(a.noTools) << " (saved " << a.noTools.saved << ")\n";
+  out << "one tool:";
+  for (const SingleToolWins& w : a.singleTool) out << " " << WinsText(w) << ";";
+  out << (a.singleTool.empty() ? " none in stock\n" : "\n");
+  out << "space: " << a.space.visited << " of " << a.space.area << " squares visited ("
+      << std::fixed << std::setprecision(1) << Percent(a.space.visited, a.space.area)
+      << "%); largest unvisited empty region " << a.space.region << " squares";
+  if (a.space.region > 0) out << " from (" << a.space.regionX << ", " << a.space.regionY << ")";
+  out << "\n" << a.runs << " plays in " << std::setprecision(2) << seconds << " s\n";
+}
+
+// A file name as a JSON string: quotes, backslashes and control characters escaped.
+std::string JsonString(const std::string& text) {
+  std::string out = "\"";
+  for (char c : text) {
+    if (c == '"' || c == '\\') out += '\\';
+    if (static_cast<unsigned char>(c) < 0x20) {
+      static const char* const kHex = "0123456789abcdef";
+      out += std::string("\\u00") + kHex[(c >> 4) & 0xF] + kHex[c & 0xF];
+      continue;
+    }
+    out += c;
+  }
+  return out + "\"";
+}
+
+void PrintJson(std::ostream& out, const std::string& level, const Analysis& a, double seconds) {
+  out << "{\"level\":" << JsonString(level) << ",\"result\":\"" << EndName(a.result)
+      << "\",\"saved\":" << a.result.saved << ",\"needed\":" << a.needed << ",\"total\":" << a.total
+      << ",\"cycles\":" << a.result.cycles << ",\"limit\":" << a.limit << "}\n";
+  for (std::size_t i = 0; i < a.presses.size(); ++i) {
+    const PressFigures& f = a.presses[i];
+    out << "{\"press\":" << i << ",\"cycle\":" << f.press.cycle << ",\"letter\":\""
+        << f.press.letter << "\",\"earliest\":" << f.alone.earliest
+        << ",\"latest\":" << f.alone.latest << ",\"width\":" << f.alone.Width()
+        << ",\"shifted_earliest\":" << f.shifted.earliest
+        << ",\"shifted_latest\":" << f.shifted.latest << ",\"shifted_width\":" << f.shifted.Width()
+        << ",\"redundant\":" << (f.redundant ? "true" : "false") << "}\n";
+  }
+  out << "{\"no_tools\":\"" << EndName(a.noTools) << "\",\"no_tools_saved\":" << a.noTools.saved
+      << "}\n";
+  for (const SingleToolWins& w : a.singleTool) {
+    out << "{\"tool\":\"" << kReplayLetters[w.tool] << "\",\"wins\":" << w.cycles.size();
+    if (!w.cycles.empty())
+      out << ",\"first\":" << w.cycles.front() << ",\"last\":" << w.cycles.back();
+    out << "}\n";
+  }
+  out << "{\"area\":" << a.space.area << ",\"visited\":" << a.space.visited
+      << ",\"visited_share\":" << std::fixed << std::setprecision(4)
+      << (a.space.area ? static_cast<double>(a.space.visited) / a.space.area : 0.0)
+      << ",\"region\":" << a.space.region << ",\"region_x\":" << a.space.regionX
+      << ",\"region_y\":" << a.space.regionY << "}\n";
+  out << "{\"plays\":" << a.runs << ",\"seconds\":" << std::setprecision(3) << seconds << "}\n";
+}
+
+// One row of the levels' figures table, after the level's own cells.
+void PrintMarkdown(std::ostream& out, const Analysis& a) {
+  std::string redundant, wins;
+  for (const PressFigures& f : a.presses)
+    if (f.redundant)
+      redundant +=
+          (redundant.empty() ? "" : ", ") + std::to_string(f.press.cycle) + " " + f.press.letter;
+  for (const SingleToolWins& w : a.singleTool)
+    if (!w.cycles.empty()) wins += (wins.empty() ? "" : ", ") + WinsText(w);
+  out << EndName(a.result) << " in " << a.result.cycles << " of " << a.limit << " | "
+      << a.presses.size() << " | " << CountWidthOne(a, false) << " / " << CountWidthOne(a, true)
+      << " | " << (redundant.empty() ? "none" : redundant) << " | "
+      << (a.noTools.Won() ? "won" : "lost") << " | " << (wins.empty() ? "none" : wins) << " | "
+      << std::fixed << std::setprecision(1) << Percent(a.space.visited, a.space.area) << "% | "
+      << a.space.region << " |\n";
+}
+
+// Takes "--name VALUE" out of the arguments; false when VALUE is missing.
+bool TakeValue(std::vector<std::string>& args, const std::string& name, std::string& value) {
+  for (std::size_t i = 0; i < args.size(); ++i)
+    if (args[i] == name) {
+      if (i + 1 >= args.size()) return false;
+      value = args[i + 1];
+      args.erase(args.begin() + static_cast<std::ptrdiff_t>(i),
+                 args.begin() + static_cast<std::ptrdiff_t>(i) + 2);
+      return true;
+    }
+  return true;
+}
+
+bool TakeFlag(std::vector<std::string>& args, const std::string& name) {
+  for (std::size_t i = 0; i < args.size(); ++i)
+    if (args[i] == name) {
+      args.erase(args.begin() + static_cast<std::ptrdiff_t>(i));
+      return true;
+    }
+  return false;
+}
+
+// A whole or decimal number in [low, high]; nothing otherwise.
+std::optional<double> Number(const std::string& text, double low, double high) {
+  std::istringstream in(text);
+  double v = 0;
+  if (!(in >> v) || !in.eof() || !std::isfinite(v) || v < low || v > high) return std::nullopt;
+  return v;
+}
+
+double SecondsSince(std::chrono::steady_clock::time_point t0) {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
+}
+
+}  // namespace
+
+std::unique_ptr<LoadedLevel> LoadHeadless(const std::string& path, std::ostream& err) {
+  auto level = std::make_unique<LoadedLevel>();
+  level->game = std::make_unique<Game>(level->host);
+  Game& g = *level->game;
+  MakeHeadless(g);
+  g.LevelFile = path;
+  if (const LoadOutcome load = LoadLevel(g, path); !load.Loaded()) {
+    err << path << ": error: " << load.message << "\n";
+    return nullptr;
+  }
+  return level;
+}
+
+int Analyse(const std::vector<std::string>& given, std::ostream& out, std::ostream& err) {
+  std::vector<std::string> args = given;
+  std::string replayPath;
+  const bool json = TakeFlag(args, "--json"), markdown = TakeFlag(args, "--markdown");
+  if (!TakeValue(args, "--replay", replayPath) || replayPath.empty() || args.size() != 1 ||
+      (json && markdown)) {
+    err << "usage: quorbit-level analyse LEVEL.lvl --replay SOLUTION [--json | --markdown]\n";
+    return 2;
+  }
+  const FileRead text = ReadSmallFile(replayPath, kMaxTextFileBytes);
+  if (!text.bytes) {
+    err << replayPath << ": error: cannot read the file: " << text.error << "\n";
+    return 1;
+  }
+  const ReplayFile replay = ParseReplay(std::string(text.bytes->begin(), text.bytes->end()));
+  if (!replay.error.empty()) {
+    err << replayPath << ": error: " << replay.error << "\n";
+    return 1;
+  }
+  const auto level = LoadHeadless(args[0], err);
+  if (!level) return 1;
+  const auto t0 = std::chrono::steady_clock::now();
+  try {
+    const Analysis a = Analyse(*level->game, PressesOf(replay.slots));
+    if (json) {
+      PrintJson(out, args[0], a, SecondsSince(t0));
+    } else if (markdown) {
+      PrintMarkdown(out, a);
+    } else {
+      PrintText(out, args[0], a, SecondsSince(t0));
+    }
+  } catch (const ProgramFault& fault) {
+    err << args[0] << ": error: a program fault while playing: " << fault.what() << "\n";
+    return 3;
+  }
+  return 0;
+}
+
+int Solve(const std::vector<std::string>& given, std::ostream& out, std::ostream& err) {
+  std::vector<std::string> args = given;
+  std::string presses = "2", seconds = "60";
+  const bool ok =
+      TakeValue(args, "--max-presses", presses) && TakeValue(args, "--seconds", seconds);
+  const auto k = Number(presses, 0, 20);
+  const auto s = Number(seconds, 0, 1e6);
+  if (!ok || args.size() != 1 || !k || *k != std::floor(*k) || !s) {
+    err << "usage: quorbit-level solve LEVEL.lvl [--max-presses K (0 to 20)] [--seconds S]\n";
+    return 2;
+  }
+  const auto level = LoadHeadless(args[0], err);
+  if (!level) return 1;
+  const auto t0 = std::chrono::steady_clock::now();
+  try {
+    const Solution found = qb::analysis::Solve(*level->game, {static_cast<int>(*k), *s});
+    out << "# " << args[0] << ": ";
+    if (found.result == SolveResult::Found)
+      out << "won with " << found.presses.size() << " presses";
+    else if (found.result == SolveResult::NoneWithin)
+      out << "no win with at most " << *k << " presses";
+    else
+      out << "undetermined: the time limit of " << *s << " s ended the search";
+    out << "; " << found.states << " states searched in " << std::fixed << std::setprecision(2)
+        << SecondsSince(t0) << " s\n";
+    out << ReplayText(found.presses);
+    return found.result == SolveResult::Found ? 0 : 1;
+  } catch (const ProgramFault& fault) {
+    err << args[0] << ": error: a program fault while playing: " << fault.what() << "\n";
+    return 3;
+  }
+}
+
+}  // namespace qb::leveltext
