@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/attempt_log.h"
 #include "core/controls.h"
 #include "core/host.h"
 #include "core/picture.h"
@@ -29,6 +30,8 @@ struct Game : GameState {
   Host* host;
   std::string ProgramFolder = ".";    // the folder that holds Levels/ and Music/
   LevelEnd LastEnd = LevelEnd::None;  // how the last level ended
+  AttemptLog attempt;
+  FinishedAttempt lastFinished;
 
   bool Sound() const { return ui.Option(OptSound); }
 };
