@@ -15,6 +15,8 @@
 
 namespace qb::ui {
 
+class ReplayMenu;
+
 // What the player chose after a fault stopped the game.
 enum class FaultChoice { Restart, ChooseLevel, Close };
 
@@ -52,6 +54,8 @@ class DeskTop : public QMainWindow {
 
   Game& game() { return g_; }
   const DeskTopMenus& Menus() const { return menus_; }
+  ReplayMenu* Replay() const { return replay_; }
+  SettingsStore* Store() const { return store_; }
   QWidget* Background() const { return background_; }
   QFrame* Frame1() const { return frame1_; }
   PlayView* Picture1() const { return view_; }
@@ -71,6 +75,8 @@ class DeskTop : public QMainWindow {
 
  Q_SIGNALS:
   void cycleRan(long cycles);
+  // After every sync of the window with the model (each command, tick and modal screen).
+  void modelSynced();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -93,6 +99,7 @@ class DeskTop : public QMainWindow {
 
   Game& g_;
   DeskTopMenus menus_;
+  ReplayMenu* replay_ = nullptr;
   QWidget* background_ = nullptr;
   QFrame* frame1_ = nullptr;
   PlayView* view_ = nullptr;
