@@ -152,7 +152,7 @@ QString ReplayMenu::LoadFrom(const QString& path) {
       g.ReplayLog(t) = replay.slots[static_cast<std::size_t>(t)];
     if (!g.ui.Option(OptReplay)) g.ui.OptionsChecked(OptReplay) = true;  // a replay asked for
     g.SkipTitle = True;
-    g.ui.Timer1Enabled = false;
+    g.LevelFile = levelPath;
     const LoadOutcome outcome = LoadLevel(g, levelPath);
     if (outcome.Loaded()) {
       g.pic.Picture1.MarkAllChanged();
