@@ -54,7 +54,7 @@ LevelRecord RecordWin(SettingsStore& store, const FinishedAttempt& won, const st
 
 std::string RecordText(const LevelRecord& r) {
   return std::to_string(r.bestSaved) + " saved, " + std::to_string(r.fewestCycles) + " cycles, " +
-         std::to_string(r.fewestTools) + " tools, " + r.date;
+         std::to_string(r.fewestTools) + (r.fewestTools == 1 ? " tool, " : " tools, ") + r.date;
 }
 
 }  // namespace qb

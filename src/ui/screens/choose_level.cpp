@@ -7,9 +7,9 @@
 
 #include "core/level_file.h"
 #include "core/records.h"
-#include "ui/screens/screens.h"
 #include "ui/screens/art.h"
 #include "ui/screens/screen_style.h"
+#include "ui/screens/screens.h"
 
 namespace qb::ui {
 
@@ -62,6 +62,9 @@ ChooseLevel::ChooseLevel(Game& g, QWidget* parent) : QDialog(parent), g_(g) {
   list1_->setSelectionMode(QAbstractItemView::SingleSelection);
   connect(list1_, &QListWidget::itemDoubleClicked, this, &ChooseLevel::Play);
   connect(list1_, &QListWidget::currentRowChanged, this, &ChooseLevel::ShowRecord);
+  // The mark of a won level no taller than the text, so the rows keep their height.
+  const int mark = list1_->fontMetrics().height() - 2;
+  list1_->setIconSize(QSize(mark, mark));
   record_ = new QLabel(this);
   record_->setObjectName("Record");
   record_->setGeometry(Twips(240), Twips(3420), Twips(4320), Twips(600));
