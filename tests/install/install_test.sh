@@ -9,6 +9,7 @@ cmake --install "$build" --prefix "$prefix" >/dev/null
 fail() { echo "FAIL: $*" >&2; exit 1; }
 for f in bin/quorbit2 bin/quorbit-sim bin/quorbit-level \
          share/quorbit2/Levels/Beginner1.lvl share/quorbit2/Music/planet9.mid \
+         share/quorbit2/Solutions/Beginner1.replay \
          share/applications/quorbit2.desktop share/icons/hicolor/48x48/apps/quorbit2.png \
          share/icons/hicolor/scalable/apps/quorbit2.svg share/man/man6/quorbit-sim.6.gz \
          share/man/man6/quorbit-level.6.gz; do
