@@ -8,6 +8,7 @@
 #include "play/replay.h"
 #include "ui/desktop/qsettings_store.h"
 #include "ui/desktop/replay_menu.h"
+#include "verify.h"
 #include "window_fixture.h"
 
 using qb::test::Window;
@@ -149,6 +150,11 @@ void ReplayWindowTest::aWinIsKeptAsAReplayAndARecordBeforeTheWinScreen() {
   QCOMPARE(w.desk->Replay()->LoadFrom(SolutionPath()), QString());
   Run(w, 1333);
   QVERIFY(keptBeforeScreen);
+  // The replay kept of the win wins again when played against the level.
+  std::ostringstream verdict;
+  QVERIFY2(qb::VerifyReplays(w.Folder().toStdString() + "/Levels",
+                             qb::ui::ReplayMenu::ReplaysFolder().toStdString(), verdict),
+           verdict.str().c_str());
   const auto record = qb::ReadRecord(store, "Expert20");
   std::size_t tools = 0;
   for (const std::string& slot : Solution().slots) tools += slot.size();
