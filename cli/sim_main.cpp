@@ -5,18 +5,27 @@
 
 #include "core/file_read.h"
 #include "sim_run.h"
+#include "verify.h"
 
 namespace {
 
 int Usage() {
   std::cerr << "usage: quorbit-sim LEVEL.lvl [--replay FILE] [--max-cycles N]"
-               " [--trace | --trace-view] [--record FILE]\n";
+               " [--trace | --trace-view] [--record FILE]\n"
+               "       quorbit-sim --verify LEVELS_DIR REPLAYS_DIR\n";
   return 2;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (argc >= 2 && std::string(argv[1]) == "--verify") {
+    if (argc != 4) return Usage();
+    std::ios::sync_with_stdio(false);
+    const bool allWon = qb::VerifyReplays(argv[2], argv[3], std::cout);
+    std::cout.flush();
+    return allWon ? 0 : 1;
+  }
   qb::SimOptions options;
   std::string recordPath;
   for (int i = 1; i < argc; ++i) {

@@ -30,6 +30,7 @@ std::unique_ptr<ui::DeskTop> StartUp(Game& g, ui::QSettingsStore& store, const S
     desk = std::make_unique<ui::DeskTop>(g);
     if (auto* host = dynamic_cast<ui::QtHost*>(g.host)) host->SetWindow(desk.get());
     desk->SetSettingsStore(&store);
+    ui::SetChooserRecords(&store);
     desk->SetChooser(steps.chooseLevel);
     desk->SetHelpDialogs(steps.instructions, steps.about);
     g.ui.Label8Caption = "Replay\nOn";

@@ -59,6 +59,8 @@ struct Controls {
   int Timer1Interval = 200;
   int Timer1Restarts = 0;  // counts "Enabled False then True": the window restarts its interval
   bool Timer3Enabled = false;
+  // A tool pressed while paused is applied without resuming; it acts on the next step.
+  bool StayPausedForTools = false;
 
   std::string Caption = "Quorbit 2";
   bool Frame1Visible = false;

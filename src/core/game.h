@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/attempt_log.h"
 #include "core/controls.h"
 #include "core/host.h"
 #include "core/picture.h"
@@ -32,6 +33,8 @@ struct Game : GameState {
   // Off: the rules run without painting; the pictures are left untouched (searches and
   // analyses that never show the game).
   bool Drawing = true;
+  AttemptLog attempt;
+  FinishedAttempt lastFinished;
 
   bool Sound() const { return ui.Option(OptSound); }
 };

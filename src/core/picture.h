@@ -31,6 +31,8 @@ class ViewPicture {
 
   // The painter takes the changed squares and forgets them.
   bool TakeFullRepaint();
+  // The whole picture was replaced (a step back): the next paint redraws every square.
+  void MarkAllChanged() { full_ = true; }
   template <typename F>
   void TakeDirty(F&& paint) {
     for (int i = 0; i < kViewSize * kViewSize; ++i)

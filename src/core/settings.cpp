@@ -88,6 +88,14 @@ std::vector<std::string> LoadSettings(Game& g, SettingsStore& store) {
     }
     g.ui.OptionsChecked(o.option) = value;
   }
+  g.ui.StayPausedForTools = false;
+  if (const auto stored = store.Get("Options", "StayPausedForTools")) {
+    if (const auto b = ToBool(*stored))
+      g.ui.StayPausedForTools = *b;
+    else
+      notes.push_back(Where("Options", "StayPausedForTools") + " = \"" + *stored +
+                      "\" is not True or False; using False");
+  }
   g.CurrentSkill = 0;
   if (const auto stored = store.Get("CurrentSkill", "Skill")) {
     const auto n = ToNumber(*stored);
@@ -107,6 +115,7 @@ void SaveSettings(const Game& g, SettingsStore& store) {
     store.Set("HighestLevel", std::to_string(tier), std::to_string(g.HighestLevel(tier)));
   for (const OptionSetting& o : kOptions)
     store.Set("Options", o.key, g.ui.Option(o.option) ? "True" : "False");
+  store.Set("Options", "StayPausedForTools", g.ui.StayPausedForTools ? "True" : "False");
   store.Set("CurrentSkill", "Skill", std::to_string(g.CurrentSkill));
 }
 

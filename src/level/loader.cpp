@@ -76,6 +76,9 @@ LoadOutcome LoadLevel(Game& g, const std::string& fileName) {
     g.ReplayPlaying = True;
   }
   g.ReplayTick = 0;
+  ++g.attempt.number;
+  g.attempt.cycles = 0;
+  g.attempt.acts.clear();
   g.ui.Timer1Enabled = true;
   ++g.ui.Timer1Restarts;
   g.SettingUp = False;

@@ -7,8 +7,7 @@
 #include "draw/drawing.h"
 #include "play/level_commands.h"
 #include "play/level_end.h"
-#include "play/replay.h"
-#include "play/use_tool.h"
+#include "play/player_acts.h"
 #include "sim/change_leader.h"
 
 namespace qb {
@@ -76,8 +75,7 @@ void Form_KeyUp(Game& g, int keyCode) {
 }
 
 void ToolButtonDown(Game& g, int tool) {
-  Label8_Click(g);
-  FinishLevel(g, UseTool(g, tool));
+  FinishLevel(g, PressTool(g, tool));
 }
 
 void ToolButtonUp(Game& g, int tool) {

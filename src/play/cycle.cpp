@@ -24,6 +24,7 @@ void Timer1_Timer(Game& g) {
 
 LevelEnd RunCycle(Game& g) {
   g.SlowToggle = g.SlowToggle ? False : True;
+  ++g.attempt.cycles;
   return TimeMe(g);
 }
 

@@ -4,6 +4,7 @@
 #include "level/loader.h"
 #include "level/screens.h"
 #include "play/level_commands.h"
+#include "play/replay_header.h"
 
 namespace qb {
 
@@ -13,10 +14,12 @@ void FinishLevel(Game& g, LevelEnd end) {
       GoToNextLevel(g);
       break;
     case LevelEnd::Lost:
+      KeepFinishedAttempt(g, end);
       ShowLooseLevel(g);
       LevelCmd_Click(g, CmdRestart);
       break;
     case LevelEnd::Timeout:
+      KeepFinishedAttempt(g, end);
       ShowLooseLevel(g);
       OpenLevel(g, g.LevelFile);
       break;
@@ -26,6 +29,7 @@ void FinishLevel(Game& g, LevelEnd end) {
 }
 
 void GoToNextLevel(Game& g) {
+  KeepFinishedAttempt(g, LevelEnd::Won);
   ShowWinLevel(g);
   g.LevelNumber = Add32(g.LevelNumber, 1, "LevelNumber");
   if (g.LevelNumber == 21) {

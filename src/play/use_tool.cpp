@@ -16,7 +16,7 @@ namespace qb {
 LevelEnd UseTool(Game& g, int tool) {
   if (g.Chars(g.Leader).Out == 0 && tool != ToolChange) return LevelEnd::None;
   if (g.ToolStock(tool) == 0) return LevelEnd::None;
-  if (!g.ui.Timer1Enabled) LevelCmd_Click(g, CmdPause);
+  if (!g.ui.Timer1Enabled && !g.ui.StayPausedForTools) LevelCmd_Click(g, CmdPause);
   if (tool == ToolClimb) {
     if (g.ClimbArmed) return LevelEnd::None;
     SpendTool(g, ToolClimb);

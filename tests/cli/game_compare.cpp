@@ -79,6 +79,8 @@ std::vector<std::string> GameDifferences(const Game& a, const Game& b) {
   QB_SAME(TrackNames);
   QB_SAME(CurrentTrack);
   QB_SAME(LastEnd);
+  QB_SAME(attempt);
+  QB_SAME(lastFinished);
   // The control model of the play window.
   QB_SAME(ui.Label1Back);
   QB_SAME(ui.Label2Back);

@@ -15,11 +15,17 @@ namespace {
 // A store as the game writes it, every value different from its default.
 MapStore SavedStore() {
   MapStore s;
-  s.values = {{{"HighestLevel", "0"}, "20"},      {{"HighestLevel", "1"}, "7"},
-              {{"HighestLevel", "2"}, "3"},       {{"HighestLevel", "3"}, "2"},
-              {{"Options", "Music"}, "False"},    {{"Options", "Sound"}, "False"},
-              {{"Options", "Scrolling"}, "True"}, {{"Options", "SmartScrolling"}, "True"},
-              {{"Options", "Replay"}, "False"},   {{"Options", "Change"}, "False"},
+  s.values = {{{"HighestLevel", "0"}, "20"},
+              {{"HighestLevel", "1"}, "7"},
+              {{"HighestLevel", "2"}, "3"},
+              {{"HighestLevel", "3"}, "2"},
+              {{"Options", "Music"}, "False"},
+              {{"Options", "Sound"}, "False"},
+              {{"Options", "Scrolling"}, "True"},
+              {{"Options", "SmartScrolling"}, "True"},
+              {{"Options", "Replay"}, "False"},
+              {{"Options", "Change"}, "False"},
+              {{"Options", "StayPausedForTools"}, "True"},
               {{"CurrentSkill", "Skill"}, "2"}};
   return s;
 }

@@ -17,6 +17,7 @@ cmake --install "$build" --prefix "$prefix" >/dev/null
 
 for f in "$bin/quorbit2" "$bin/quorbit-sim" "$bin/quorbit-level" \
          "$data/quorbit2/Levels/Beginner1.lvl" "$data/quorbit2/Music/planet9.mid" \
+         "$data/quorbit2/Solutions/Beginner1.replay" \
          "$root/applications/quorbit2.desktop" "$root/icons/hicolor/48x48/apps/quorbit2.png" \
          "$root/icons/hicolor/scalable/apps/quorbit2.svg" "$man/man6/quorbit-sim.6.gz" \
          "$man/man6/quorbit-level.6.gz"; do

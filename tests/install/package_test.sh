@@ -14,6 +14,7 @@ contents=$(dpkg-deb -c "$deb")
 # echo that is still writing dies of SIGPIPE and fails the check now and then.
 for f in ./usr/bin/quorbit2 ./usr/bin/quorbit-sim ./usr/bin/quorbit-level \
          ./usr/share/quorbit2/Levels/Expert20.lvl ./usr/share/quorbit2/Music/dbyd8.mid \
+         ./usr/share/quorbit2/Solutions/Expert20.replay \
          ./usr/share/applications/quorbit2.desktop \
          ./usr/share/icons/hicolor/256x256/apps/quorbit2.png \
          ./usr/share/man/man6/quorbit2.6.gz; do

@@ -25,7 +25,7 @@ void MenusTest::menuTreeHasTheCaptionsOrderAndChecks() {
   const auto& m = w.desk->Menus();
   QStringList titles;
   for (QAction* a : w.desk->menuBar()->actions()) titles << a->text();
-  QCOMPARE(titles, QStringList({"&Game", "&Level", "&Options", "&Help"}));
+  QCOMPARE(titles, QStringList({"&Game", "&Level", "&Options", "Re&play", "&Help"}));
 
   // Captions in order, "-" for a separator, "*" after a check item.
   const auto describe = [](QMenu* menu) {

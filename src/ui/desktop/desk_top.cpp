@@ -14,6 +14,7 @@
 #include "play/commands.h"
 #include "play/cycle.h"
 #include "play/level_commands.h"
+#include "ui/desktop/replay_menu.h"
 #include "ui/desktop/twips.h"
 
 namespace qb::ui {
@@ -44,6 +45,7 @@ DeskTop::DeskTop(Game& g, QWidget* parent) : QMainWindow(parent), g_(g) {
   menus_ = BuildMenus(menuBar(), g_.ui);
   BuildFrame();
   ConnectCommands();
+  replay_ = new ReplayMenu(this);
   faultReport_ = AskAfterFault;
 
   timer1_.setTimerType(Qt::PreciseTimer);
@@ -123,6 +125,7 @@ void DeskTop::SyncFromModel() {
   view_->Sync(g_.pic.Picture1);
   panel_->Sync(g_, kMapPixelsPerTwip);
   SyncTimers();
+  Q_EMIT modelSynced();
 }
 
 void DeskTop::SyncMenus() {
@@ -187,6 +190,7 @@ void DeskTop::LeaveModal() {
 
 void DeskTop::SetSettingsStore(QSettingsStore* store) {
   keeper_.reset();
+  store_ = store;
   if (!store) return;
   keeper_ = std::make_unique<SettingsKeeper>(*store, g_, [this](const std::string& text) {
     if (g_.host) g_.host->ShowMessage(text, "Quorbit");

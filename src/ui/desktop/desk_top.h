@@ -19,6 +19,8 @@
 
 namespace qb::ui {
 
+class ReplayMenu;
+
 // What the player chose after a fault stopped the game.
 enum class FaultChoice { Restart, ChooseLevel, Close };
 
@@ -57,6 +59,8 @@ class DeskTop : public QMainWindow {
 
   Game& game() { return g_; }
   const DeskTopMenus& Menus() const { return menus_; }
+  ReplayMenu* Replay() const { return replay_; }
+  QSettingsStore* Store() const { return store_; }
   QWidget* Background() const { return background_; }
   QFrame* Frame1() const { return frame1_; }
   PlayView* Picture1() const { return view_; }
@@ -74,6 +78,8 @@ class DeskTop : public QMainWindow {
 
  Q_SIGNALS:
   void cycleRan(long cycles);
+  // After every sync of the window with the model (each command, tick and modal screen).
+  void modelSynced();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -97,6 +103,7 @@ class DeskTop : public QMainWindow {
 
   Game& g_;
   DeskTopMenus menus_;
+  ReplayMenu* replay_ = nullptr;
   QWidget* background_ = nullptr;
   QFrame* frame1_ = nullptr;
   PlayView* view_ = nullptr;
@@ -112,6 +119,7 @@ class DeskTop : public QMainWindow {
   bool inFault_ = false;
   long cycles_ = 0;
   double mouseX_ = 0, mouseY_ = 0;  // last mouse position over the background, in twips
+  QSettingsStore* store_ = nullptr;  // where the settings and the records are kept
   std::unique_ptr<SettingsKeeper> keeper_;
   Chooser chooser_;
   Dialog instructions_, about_;

@@ -3,9 +3,13 @@
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QStyle>
 
+#include "core/level_file.h"
+#include "core/records.h"
 #include "ui/screens/art.h"
 #include "ui/screens/screen_style.h"
+#include "ui/screens/screens.h"
 
 namespace qb::ui {
 
@@ -15,7 +19,17 @@ const char* const kTierNames[4] = {"Beginner", "Intermediate", "Advanced", "Expe
 bool IsTier(long t) {
   return t >= 0 && t <= 3;
 }
+
+SettingsStore* recordStore = nullptr;
+
+std::string LevelKey(int tier, int number) {
+  return kTierNames[tier] + std::to_string(number);
+}
 }  // namespace
+
+void SetChooserRecords(SettingsStore* store) {
+  recordStore = store;
+}
 
 void HiddenClickArea::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
@@ -25,7 +39,8 @@ void HiddenClickArea::mouseReleaseEvent(QMouseEvent* event) {
 ChooseLevel::ChooseLevel(Game& g, QWidget* parent) : QDialog(parent), g_(g) {
   setWindowTitle(QStringLiteral("Choose Level"));
   setModal(true);
-  setFixedSize(Twips(4800), Twips(3600));
+  // Taller than the list needs: the selected level's title and record go under it.
+  setFixedSize(Twips(4800), Twips(4140));
 
   auto* label1 = new QLabel(QStringLiteral("Choose Level"), this);
   label1->setFont(ArialFont(16, true));
@@ -46,6 +61,14 @@ ChooseLevel::ChooseLevel(Game& g, QWidget* parent) : QDialog(parent), g_(g) {
   list1_->setGeometry(Twips(1920), Twips(840), Twips(1320), Twips(2520));
   list1_->setSelectionMode(QAbstractItemView::SingleSelection);
   connect(list1_, &QListWidget::itemDoubleClicked, this, &ChooseLevel::Play);
+  connect(list1_, &QListWidget::currentRowChanged, this, &ChooseLevel::ShowRecord);
+  // The mark of a won level no taller than the text, so the rows keep their height.
+  const int mark = list1_->fontMetrics().height() - 2;
+  list1_->setIconSize(QSize(mark, mark));
+  record_ = new QLabel(this);
+  record_->setObjectName("Record");
+  record_->setGeometry(Twips(240), Twips(3420), Twips(4320), Twips(600));
+  record_->setWordWrap(true);
 
   auto* image1 = new ArtView(QStringLiteral("chooser"), QSize(Twips(1200), Twips(1200)), this);
   image1->move(Twips(3420), Twips(840));
@@ -99,8 +122,28 @@ void ChooseLevel::Option1Click(int tier) {
 // "Level 1" to "Level highest", the last one selected.
 void ChooseLevel::FillList(int highest) {
   list1_->clear();
-  for (int n = 1; n <= highest; ++n) list1_->addItem(QStringLiteral("Level %1").arg(n));
+  const int tier = SelectedTier();
+  const QIcon won = style()->standardIcon(QStyle::SP_DialogApplyButton);
+  for (int n = 1; n <= highest; ++n) {
+    auto* item = new QListWidgetItem(QStringLiteral("Level %1").arg(n), list1_);
+    if (recordStore && ReadRecord(*recordStore, LevelKey(tier, n))) item->setIcon(won);
+  }
   list1_->setCurrentRow(list1_->count() - 1);
+  ShowRecord();
+}
+
+void ChooseLevel::ShowRecord() {
+  const int tier = SelectedTier(), number = list1_->currentRow() + 1;
+  if (number < 1) {
+    record_->clear();
+    return;
+  }
+  const FileRead file = g_.host->ReadFile(LevelPath(g_, tier, number));
+  const std::string title = file.bytes ? ReadLevel(*file.bytes).data.Title : "";
+  QString text = QString::fromLatin1(title.data(), static_cast<int>(title.size()));
+  const auto record = recordStore ? ReadRecord(*recordStore, LevelKey(tier, number)) : std::nullopt;
+  text += "\n" + (record ? "Best: " + QString::fromStdString(RecordText(*record)) : "Not won yet");
+  record_->setText(text);
 }
 
 void ChooseLevel::Play() {

@@ -3,6 +3,7 @@
 
 #include <QButtonGroup>
 #include <QDialog>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -11,6 +12,7 @@
 #include <utility>
 
 #include "core/game.h"
+#include "core/settings.h"
 
 namespace qb::ui {
 
@@ -41,6 +43,7 @@ class ChooseLevel : public QDialog {
   HiddenClickArea* Image2() const { return image2_; }  // lower left: every tier back to 1
   HiddenClickArea* Image3() const { return image3_; }  // top edge: every level open
   int SelectedTier() const;
+  QLabel* Record() const { return record_; }  // the selected level's title and record
 
  private:
   void FormLoad();
@@ -48,11 +51,13 @@ class ChooseLevel : public QDialog {
   void FillList(int highest);
   void Play();
   void SetAllHighest(int level);
+  void ShowRecord();
 
   Game& g_;
   std::array<QRadioButton*, 4> option1_{};
   QButtonGroup tiers_;
   QListWidget* list1_;
+  QLabel* record_ = nullptr;
   QPushButton* play_;
   QPushButton* cancel_;
   HiddenClickArea* image2_;

@@ -7,6 +7,7 @@
 
 #include "core/game.h"
 #include "core/host.h"
+#include "core/settings.h"
 
 class QWidget;
 
@@ -16,6 +17,9 @@ namespace qb::ui {
 void ShowScreen(QWidget* parent, qb::Screen screen, const qb::ScreenTexts& texts);
 // The level chooser, modal. On Play (or a double click) it closes itself and then calls
 // play(tier, level); Cancel just closes. Hidden switches change g.HighestLevel.
+// Where the level chooser finds the player's records, to mark the levels won and show the
+// selected level's record; without it the chooser shows none.
+void SetChooserRecords(qb::SettingsStore* store);
 void ShowChooseLevel(QWidget* parent, qb::Game& g, const std::function<void(int, int)>& play);
 void ShowInstructions(QWidget* parent);  // modal, three pages
 void ShowAbout(QWidget* parent);         // modal

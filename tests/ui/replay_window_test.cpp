@@ -1,0 +1,165 @@
+// The Replay menu in the play window: a saved attempt replays the same in a fresh game, a changed
+// level is warned about, a bad file leaves the game alone, and a win is kept as it happens.
+#include <QtTest>
+
+#include "core/records.h"
+#include "level/loader.h"
+#include "play/commands.h"
+#include "play/replay.h"
+#include "ui/desktop/qsettings_store.h"
+#include "ui/desktop/replay_menu.h"
+#include "verify.h"
+#include "window_fixture.h"
+
+using qb::test::Window;
+
+namespace {
+
+const char* const kLevel = "Expert20";
+
+void CopyLevel(Window& w, const std::function<void(QByteArray&)>& change = {}) {
+  QFile in(QString(QUORBIT_LEVELS_DIR) + "/" + kLevel + ".lvl");
+  QVERIFY(in.open(QIODevice::ReadOnly));
+  QByteArray bytes = in.readAll();
+  if (change) change(bytes);
+  QFile out(w.Folder() + "/Levels/" + kLevel + ".lvl");
+  QVERIFY(out.open(QIODevice::WriteOnly));
+  out.write(bytes);
+}
+
+qb::ReplayFile Solution() {
+  QFile in(QString(QUORBIT_SOLUTIONS_DIR) + "/" + kLevel + ".replay");
+  in.open(QIODevice::ReadOnly);
+  return qb::ParseReplay(in.readAll().toStdString());
+}
+
+// What a cycle leaves: every character's place and state, the counts and the view.
+QString State(const qb::Game& g) {
+  QString s = QString("%1 %2 %3|").arg(g.SavedCount).arg(g.CharactersReleased).arg(g.TimeLeft);
+  for (int i = 0; i < g.CharactersTotal; ++i) {
+    const qb::CharRecord& c = g.Chars(i);
+    s += QString("%1,%2,%3,%4;").arg(c.X).arg(c.Y).arg(c.Dir).arg(c.Out);
+  }
+  for (int y = 0; y < qb::kViewSize; ++y)
+    for (int x = 0; x < qb::kViewSize; ++x)
+      s += QString::number(g.pic.Picture1.At(x, y).colour, 36);
+  return s;
+}
+
+QString SolutionPath() {
+  return QString(QUORBIT_SOLUTIONS_DIR) + "/" + kLevel + ".replay";
+}
+
+// Runs `cycles` ticks; from cycle `pressFrom` on, the solution's tools are pressed by hand.
+QStringList Run(Window& w, int cycles, int pressFrom = 1 << 30) {
+  const qb::ReplayFile solution = Solution();
+  QStringList trace;
+  for (int i = 0; i < cycles; ++i) {
+    if (w.g.attempt.cycles >= pressFrom)
+      for (char letter : solution.slots[static_cast<std::size_t>(w.g.ReplayTick)])
+        w.desk->Run([&] {
+          qb::ToolButtonDown(w.g, static_cast<int>(std::string_view("CKBDJRXL").find(letter)));
+        });
+    w.desk->Tick();
+    trace << State(w.g);
+  }
+  return trace;
+}
+
+}  // namespace
+
+class ReplayWindowTest : public QObject {
+  Q_OBJECT
+ private Q_SLOTS:
+  void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+  void savedAttemptReplaysTheSameAndAChangedLevelIsWarnedAbout();
+  void aBadFileNamesTheLineAndLeavesTheGameAlone();
+  void aWinIsKeptAsAReplayAndARecordBeforeTheWinScreen();
+};
+
+void ReplayWindowTest::savedAttemptReplaysTheSameAndAChangedLevelIsWarnedAbout() {
+  const QString saved = QDir(QDir::tempPath()).filePath("quorbit-replay-window-test.replay");
+  QStringList recorded;
+  {
+    // The solution plays up to cycle 200; then the player takes over and presses the rest.
+    Window w;
+    CopyLevel(w);
+    QCOMPARE(w.desk->Replay()->LoadFrom(SolutionPath()), QString());
+    recorded = Run(w, 200);
+    w.desk->Run([&] { qb::Label8_Click(w.g); });
+    recorded += Run(w, 250, 200);
+    QCOMPARE(w.desk->Replay()->SaveTo(saved), QString());
+  }
+  {
+    Window fresh;
+    CopyLevel(fresh);
+    QCOMPARE(fresh.desk->Replay()->LoadFrom(saved), QString());
+    const QStringList replayed = Run(fresh, 450);
+    QCOMPARE(replayed.size(), recorded.size());
+    for (int i = 0; i < recorded.size(); ++i)
+      QVERIFY2(replayed[i] == recorded[i], qPrintable(QString("cycle %1 differs").arg(i)));
+  }
+  {
+    Window changed;
+    CopyLevel(changed, [](QByteArray& bytes) {
+      const auto at = bytes.indexOf("Every Trick");
+      QVERIFY(at >= 0);
+      bytes[at] = 'e';
+    });
+    const QString warning = changed.desk->Replay()->LoadFrom(saved);
+    QVERIFY2(warning.contains("has changed"), qPrintable(warning));
+    QCOMPARE(QString::fromStdString(changed.g.LevelTitle), QString("every Trick in the Book"));
+    QVERIFY(changed.g.ReplayPlaying);
+  }
+  QFile::remove(saved);
+}
+
+void ReplayWindowTest::aBadFileNamesTheLineAndLeavesTheGameAlone() {
+  Window w;
+  w.Play(1);
+  w.Ticks(5);
+  const qb::Game before = w.g;
+  const QString bad = QDir(QDir::tempPath()).filePath("quorbit-bad.replay");
+  QFile file(bad);
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  file.write("# level: Beginner1.lvl\n3 C\n7 Z\n");
+  file.close();
+  const QString message = w.desk->Replay()->LoadFrom(bad);
+  QVERIFY2(message.contains("line 3"), qPrintable(message));
+  QVERIFY(w.g.attempt == before.attempt && w.g.Chars == before.Chars &&
+          w.g.LevelFile == before.LevelFile);
+  QFile::remove(bad);
+}
+
+void ReplayWindowTest::aWinIsKeptAsAReplayAndARecordBeforeTheWinScreen() {
+  qb::test::ClearStoredSettings();
+  QDir(qb::ui::ReplayMenu::ReplaysFolder()).removeRecursively();
+  Window w;
+  CopyLevel(w);
+  qb::ui::QSettingsStore store;
+  w.desk->SetSettingsStore(&store);
+  bool keptBeforeScreen = false;
+  w.host.SetScreenShower([&](qb::Screen s, const qb::ScreenTexts&) {
+    if (s != qb::Screen::WinLevel) return;
+    // What a fresh process would find if this one were killed now.
+    QSettings disk(QSettings::NativeFormat, QSettings::UserScope, "Quorbit2", "Quorbit2");
+    const QStringList files =
+        QDir(qb::ui::ReplayMenu::ReplaysFolder()).entryList({"Expert20 *.replay"});
+    keptBeforeScreen = files.size() == 1 && disk.value("Records/Expert20/BestSaved").toInt() == 89;
+  });
+  QCOMPARE(w.desk->Replay()->LoadFrom(SolutionPath()), QString());
+  Run(w, 1333);
+  QVERIFY(keptBeforeScreen);
+  // The replay kept of the win wins again when played against the level.
+  std::ostringstream verdict;
+  QVERIFY2(qb::VerifyReplays(w.Folder().toStdString() + "/Levels",
+                             qb::ui::ReplayMenu::ReplaysFolder().toStdString(), verdict),
+           verdict.str().c_str());
+  const auto record = qb::ReadRecord(store, "Expert20");
+  std::size_t tools = 0;
+  for (const std::string& slot : Solution().slots) tools += slot.size();
+  QVERIFY(record && record->fewestCycles == 1333 && record->fewestTools == static_cast<int>(tools));
+}
+
+QTEST_MAIN(ReplayWindowTest)
+#include "replay_window_test.moc"
