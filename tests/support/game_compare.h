@@ -1,0 +1,20 @@
+// Compares two whole games: their state, the control model, the pictures and the last level end.
+#pragma once
+
+#include <string>
+
+#include "core/game.h"
+
+namespace qb::test {
+
+// The parts of two games that differ, by name (" state controls"); empty when they are the same.
+inline std::string GameDifferences(const Game& a, const Game& b) {
+  std::string out;
+  if (!(static_cast<const GameState&>(a) == static_cast<const GameState&>(b))) out += " state";
+  if (!(a.ui == b.ui)) out += " controls";
+  if (!(a.pic == b.pic)) out += " pictures";
+  if (a.LastEnd != b.LastEnd) out += " level end";
+  return out;
+}
+
+}  // namespace qb::test
