@@ -110,7 +110,8 @@ std::string CheckLoadOverRunningGame(const std::vector<uint8_t>& bytes) {
   host.files["input.lvl"] = bytes;
   Game g = running;
   try {
-    const LoadResult result = LoadLevel(g, "input.lvl").result;
+    // The game's own load, which shows the refusal and notes why a level is missing.
+    const LoadResult result = OpenLevel(g, "input.lvl");
     if (std::string problem = UnreadableMessage(host); !problem.empty()) return problem;
     if (result == LoadResult::Loaded) return "";
     Game expected = running;
