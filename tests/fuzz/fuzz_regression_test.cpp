@@ -43,6 +43,7 @@ TEST_P(EveryInput, PassesItsCheck) {
   const auto seeds = Files(fs::path(QUORBIT_FUZZ_SEEDS) / target);
   ASSERT_FALSE(seeds.empty()) << "no seeds for " << target;
   auto inputs = Files(fs::path(QUORBIT_FUZZ_FOUND) / target);
+  ASSERT_FALSE(inputs.empty()) << "no regression inputs for " << target;
   inputs.insert(inputs.end(), seeds.begin(), seeds.end());
   for (const fs::path& p : inputs) {
     SCOPED_TRACE(p.string());
