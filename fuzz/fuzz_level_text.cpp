@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "fuzz_host.h"
+#include "findings.h"
 #include "input_checks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {

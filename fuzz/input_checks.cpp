@@ -2,20 +2,21 @@
 #include "input_checks.h"
 
 #include <array>
-#include <map>
-#include <optional>
 #include <string>
 
 #include "core/fault.h"
 #include "core/level_file.h"
 #include "core/settings.h"
-#include "fuzz_host.h"
+#include "findings.h"
 #include "level/loader.h"
 #include "level_text.h"
 #include "play/commands.h"
 #include "play/cycle.h"
 #include "play/replay.h"
+#include "support/game_compare.h"
 #include "support/level_builder.h"
+#include "support/map_store.h"
+#include "support/recorder_host.h"
 
 namespace qb::fuzz {
 namespace {
@@ -53,18 +54,18 @@ LevelData RowsLevel(const std::vector<std::string>& rows) {
   return d;
 }
 
-Game Loaded(QuietHost& host, const LevelData& d) {
+Game Loaded(test::RecorderHost& host, const LevelData& d) {
   Game g{host};
   g.SkipTitle = True;
   g.ui.OptionsChecked(OptReplay) = true;
-  host.file = WriteLevel(d);
+  host.files["fixed.lvl"] = WriteLevel(d);
   if (!LoadLevel(g, "fixed.lvl").Loaded()) Finding("a fixed level is refused");
   return g;
 }
 
 // A small level some cycles under way, with a block placed and the view scrolled: made once,
 // copied for each input that is loaded over it.
-const Game& RunningGame(QuietHost& host) {
+const Game& RunningGame(test::RecorderHost& host) {
   static const Game running = [&host] {
     Game g = Loaded(host, RowsLevel({std::string(50, '.'), std::string(50, '.'),
                                      std::string(47, '.') + "D..", std::string(50, '#')}));
@@ -78,7 +79,7 @@ const Game& RunningGame(QuietHost& host) {
 }
 
 // A level with something for every tool to act on, for replays to play on.
-const Game& Playground(QuietHost& host) {
+const Game& Playground(test::RecorderHost& host) {
   static const Game ground = Loaded(host, RowsLevel({
                                               "M.........................c......M",
                                               "M.................................",
@@ -90,22 +91,28 @@ const Game& Playground(QuietHost& host) {
   return ground;
 }
 
-bool SameGame(const Game& a, const Game& b) {
-  return static_cast<const GameState&>(a) == static_cast<const GameState&>(b) && a.ui == b.ui &&
-         a.pic == b.pic && a.LastEnd == b.LastEnd;
+// The first message or note (without the message box's title) a person could not read.
+std::string UnreadableMessage(const test::RecorderHost& host) {
+  for (const std::string& m : host.messages)
+    if (std::string problem = MessageProblem(m.substr(m.find(": ") + 2)); !problem.empty())
+      return problem;
+  for (const std::string& n : host.notes)
+    if (std::string problem = MessageProblem(n); !problem.empty()) return problem;
+  return "";
 }
 
 // Loads the input over a running level. A refused load must leave that game as it was, except
 // that a missing level keeps the title and number just read.
 std::string CheckLoadOverRunningGame(const std::vector<uint8_t>& bytes) {
-  static QuietHost host;
+  static test::RecorderHost host;
   const Game& running = RunningGame(host);
-  host.file = bytes;
-  host.badMessage.clear();
+  host.Clear();  // the host lives through every run
+  host.files["input.lvl"] = bytes;
   Game g = running;
   try {
-    const LoadResult result = LoadLevel(g, "input.lvl").result;
-    if (!host.badMessage.empty()) return host.badMessage;
+    // The game's own load, which shows the refusal and notes why a level is missing.
+    const LoadResult result = OpenLevel(g, "input.lvl");
+    if (std::string problem = UnreadableMessage(host); !problem.empty()) return problem;
     if (result == LoadResult::Loaded) return "";
     Game expected = running;
     if (result == LoadResult::Missing) {
@@ -113,25 +120,13 @@ std::string CheckLoadOverRunningGame(const std::vector<uint8_t>& bytes) {
       expected.LevelName = g.LevelName;
       expected.LevelNumber = g.LevelNumber;
     }
-    if (!SameGame(g, expected)) return "a refused load changed the running game";
+    if (const std::string parts = test::GameDifferences(g, expected); !parts.empty())
+      return "a refused load changed the running game:" + parts;
   } catch (const ProgramFault&) {
     // Loading a level the reader accepted faulted while setting it up; the window reports it.
   }
   return "";
 }
-
-class MapStore : public SettingsStore {
- public:
-  std::map<std::string, std::string> values;
-  std::optional<std::string> Get(const std::string& section, const std::string& key) override {
-    const auto it = values.find(section + "/" + key);
-    if (it == values.end()) return std::nullopt;
-    return it->second;
-  }
-  void Set(const std::string& section, const std::string& key, const std::string& value) override {
-    values[section + "/" + key] = value;
-  }
-};
 
 struct SettingsSeen {
   std::array<int, 4> highest{};
@@ -162,7 +157,7 @@ std::string CheckLevelFile(const std::vector<uint8_t>& bytes) {
     return "the written level does not read back whole: " + again.problem + again.shortAt;
   if (!(again.data == read.data)) return "writing then reading changed the level";
 
-  QuietHost host;
+  test::RecorderHost host;
   Game g{host};
   g.ui.OptionsChecked(OptSound) = true;
   g.ui.OptionsChecked(OptReplay) = true;
@@ -208,7 +203,7 @@ std::string CheckReplay(const std::string& text) {
     if (parsed.error.rfind("line ", 0) != 0) return "an error without a line";
     return MessageProblem(parsed.error);
   }
-  QuietHost host;
+  test::RecorderHost host;
   Game g{host};
   for (int t = 0; t < kReplaySlots; ++t) {
     const std::string& slot = parsed.slots[static_cast<std::size_t>(t)];
@@ -221,7 +216,8 @@ std::string CheckReplay(const std::string& text) {
   if (again.slots != parsed.slots) return "writing then parsing changed the replay";
 
   // Played as the headless runner plays it; a fault stops the run as it stops the game.
-  static QuietHost playHost;
+  static test::RecorderHost playHost;
+  playHost.Clear();  // the played copies share the host, which lives through every run
   Game play = Playground(playHost);
   for (int t = 0; t < kReplaySlots; ++t)
     play.ReplayLog(t) = parsed.slots[static_cast<std::size_t>(t)];
@@ -235,17 +231,20 @@ std::string CheckReplay(const std::string& text) {
 }
 
 std::string CheckSettings(const std::string& input) {
-  MapStore store;
+  test::MapStore store;
   std::size_t start = 0;
   while (start < input.size()) {
     std::size_t end = input.find('\n', start);
     if (end == std::string::npos) end = input.size();
     const std::string line = input.substr(start, end - start);
     const auto eq = line.find('=');
-    if (eq != std::string::npos) store.values[line.substr(0, eq)] = line.substr(eq + 1);
+    const auto slash = line.find('/');
+    if (eq != std::string::npos && slash < eq)
+      store.values[{line.substr(0, slash), line.substr(slash + 1, eq - slash - 1)}] =
+          line.substr(eq + 1);
     start = end + 1;
   }
-  QuietHost host;
+  test::RecorderHost host;
   Game g{host};
   const auto notes = LoadSettings(g, store);
   for (const std::string& n : notes)
@@ -257,7 +256,7 @@ std::string CheckSettings(const std::string& input) {
   if (g.CurrentSkill < 0 || g.CurrentSkill > 4)
     return "tier " + std::to_string(g.CurrentSkill) + " is outside 0 to 4";
   const SettingsSeen loaded = Seen(g);
-  MapStore saved;
+  test::MapStore saved;
   SaveSettings(g, saved);
   Game reloaded{host};
   const auto notesAgain = LoadSettings(reloaded, saved);

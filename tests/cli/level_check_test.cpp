@@ -5,7 +5,6 @@
 
 #include <functional>
 
-#include "level_bytes.h"
 #include "level_table.h"
 #include "level_text.h"
 
@@ -76,37 +75,6 @@ TEST(LevelCheck, EachSanityRuleIsReported) {
     ASSERT_EQ(problems.size(), 1u) << Joined(problems);
     EXPECT_NE(problems[0].find("lies beyond the level"), std::string::npos);
   }
-}
-
-TEST(LevelCheck, ACutShortFileLoadsButFailsTheCheck) {
-  LevelBytes b;
-  const auto full = b.Bytes();
-  const std::vector<uint8_t> cut(full.begin(),
-                                 full.begin() + static_cast<long>(b.GridOffset() + 6));
-  const auto r = CheckLevelBytes(cut);
-  EXPECT_TRUE(r.loaded);
-  const std::string all = Joined(r);
-  EXPECT_NE(all.find("cut short: the file ends in the grid"), std::string::npos) << all;
-  // The door was in the part that was cut off.
-  EXPECT_NE(all.find("no exit door"), std::string::npos) << all;
-}
-
-TEST(LevelCheck, MissingAndRefusedFilesSayWhy) {
-  const auto empty = CheckLevelBytes({});
-  EXPECT_FALSE(empty.loaded);
-  ASSERT_EQ(empty.diagnostics.size(), 1u);
-  EXPECT_EQ(empty.diagnostics[0].message, "This level does not exist! (the file is empty)");
-
-  LevelBytes numberZero;
-  numberZero.Number = Var::Integer(0);
-  EXPECT_NE(Joined(CheckLevelBytes(numberZero.Bytes())).find("This level does not exist!"),
-            std::string::npos);
-
-  LevelBytes kind40;
-  kind40.Columns[3] = 40;
-  const auto refused = CheckLevelBytes(kind40.Bytes());
-  EXPECT_FALSE(refused.loaded);
-  EXPECT_EQ(Joined(refused), "the game cannot play it: square (1, 0) has kind 40, not 0 to 17\n");
 }
 
 // A read level holding a value the text form cannot hold gets a warning in the very words that

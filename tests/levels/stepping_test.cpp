@@ -5,7 +5,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "cli/game_compare.h"
+#include "support/game_compare.h"
 #include "file_host.h"
 #include "level/loader.h"
 #include "play/cycle.h"
@@ -63,12 +63,12 @@ TEST(Stepping, ForwardThenBackEqualsAStraightRunAndGoesOnFromThere) {
     stepped.Run(n, &history);
     for (int i = 0; i < m; ++i) ASSERT_TRUE(history.StepBack(stepped.g)) << n << " back " << i;
     straight.Run(n - m);
-    EXPECT_EQ(test::GameDifferences(stepped.g, straight.g), std::vector<std::string>{})
+    EXPECT_EQ(test::GameDifferences(stepped.g, straight.g), "")
         << n << " forward, " << m << " back";
     // The attempt goes on from there as if the later cycles had never been run.
     stepped.Run(m, &history);
     straight.Run(m);
-    EXPECT_EQ(test::GameDifferences(stepped.g, straight.g), std::vector<std::string>{})
+    EXPECT_EQ(test::GameDifferences(stepped.g, straight.g), "")
         << n << " forward, " << m << " back, " << m << " forward again";
   }
 }

@@ -47,6 +47,15 @@ class RecorderHost : public Host {
     return {it->second, {}};
   }
   void Note(const std::string& text) override { notes.push_back(text); }
+  // Forgets everything recorded, so a host that lives through many runs stays small.
+  void Clear() {
+    sounds.clear();
+    screens.clear();
+    screenTexts.clear();
+    messages.clear();
+    notes.clear();
+    music.clear();
+  }
   bool PlayedSound(int number) const {
     for (const auto& s : sounds)
       if (s.number == number) return true;
