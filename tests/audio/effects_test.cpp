@@ -41,15 +41,5 @@ TEST(BuiltInEffects, EveryEffectIsA16BitWaveAsLoudAsTheOthersWithoutClipping) {
   EXPECT_LE(loudest - quietest, 4.0) << "from " << quietest << " to " << loudest << " dB RMS";
 }
 
-TEST(BuiltInEffects, ThereIsNo103AndTheTypeMustMatch) {
-  EXPECT_TRUE(FindSound("SOUND", 103).empty());
-  EXPECT_TRUE(FindSound("CUSTOM", 103).empty());
-  EXPECT_TRUE(FindSound("SOUND", 115).empty());  // the jump is a CUSTOM resource
-  EXPECT_TRUE(FindSound("CUSTOM", 101).empty());
-  EXPECT_TRUE(FindSound("sound", 101).empty());
-  EXPECT_TRUE(FindSound("SOUND", 0).empty());
-  EXPECT_TRUE(FindSound("SOUND", 116).empty());
-}
-
 }  // namespace
 }  // namespace qb

@@ -27,11 +27,11 @@ struct MidiFile {
   int format = 0;
   int division = 0;  // ticks per quarter note
   std::vector<MidiTrack> tracks;
-  int EndTick() const;
   // Seconds to the end of the longest track, following every tempo event of every track.
   double Seconds() const;
 };
 
+// Nothing, with the reason in `why`, when the bytes are not a well-formed file.
 std::optional<MidiFile> ReadMidi(const std::vector<uint8_t>& bytes, std::string* why = nullptr);
 
 }  // namespace qb::test
