@@ -13,19 +13,6 @@
 namespace qb {
 namespace {
 
-const char* ResultName(LevelEnd end) {
-  switch (end) {
-    case LevelEnd::Won:
-      return "won";
-    case LevelEnd::Lost:
-      return "lost";
-    case LevelEnd::Timeout:
-      return "timeout";
-    default:
-      return "running";
-  }
-}
-
 // The used area's kinds, column by column, to find what a cycle changed.
 std::vector<int16_t> UsedArea(const Game& g) {
   std::vector<int16_t> kinds;
@@ -118,7 +105,7 @@ SimOutcome RunSimulation(const SimOptions& options, std::ostream& out, std::ostr
     outcome.exitStatus = 3;
     return outcome;
   }
-  out << "{\"result\":\"" << ResultName(end) << "\",\"cycles\":" << cycles
+  out << "{\"result\":\"" << ResultWord(end) << "\",\"cycles\":" << cycles
       << ",\"saved\":" << g.SavedCount << ",\"needed\":" << g.CharactersNeeded
       << ",\"total\":" << g.CharactersTotal << "}\n";
   return outcome;

@@ -20,17 +20,9 @@ namespace {
 
 using namespace qb::analysis;
 
+// A play stopped once too few could still be saved counts as lost.
 const char* EndName(const Outcome& o) {
-  switch (o.end) {
-    case LevelEnd::Won:
-      return "won";
-    case LevelEnd::Lost:
-      return "lost";
-    case LevelEnd::Timeout:
-      return "timeout";
-    default:
-      return "lost";  // stopped once too few could still be saved
-  }
+  return o.end == LevelEnd::None ? "lost" : ResultWord(o.end);
 }
 
 std::string Range(const Window& w) {

@@ -20,6 +20,20 @@ inline bool Ended(LevelEnd end) {
   return end != LevelEnd::None;
 }
 
+// The word for an end in replay headers and the headless runner's result: "running" for None.
+inline const char* ResultWord(LevelEnd end) {
+  switch (end) {
+    case LevelEnd::Won:
+      return "won";
+    case LevelEnd::Lost:
+      return "lost";
+    case LevelEnd::Timeout:
+      return "timeout";
+    default:
+      return "running";
+  }
+}
+
 struct Game : GameState {
   explicit Game(Host& h);
   Game(const Game&) = default;

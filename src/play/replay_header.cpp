@@ -9,19 +9,6 @@
 namespace qb {
 namespace {
 
-const char* ResultWord(LevelEnd end) {
-  switch (end) {
-    case LevelEnd::Won:
-      return "won";
-    case LevelEnd::Lost:
-      return "lost";
-    case LevelEnd::Timeout:
-      return "timeout";
-    default:
-      return "running";
-  }
-}
-
 std::string BaseName(const std::string& path) {
   const auto slash = path.find_last_of("/\\");
   return slash == std::string::npos ? path : path.substr(slash + 1);
