@@ -1,5 +1,5 @@
 // Test helpers: choose SDL's audio driver for one test, the effects the rules play and how SDL
-// reads them, and count the lines a log received.
+// reads them.
 #pragma once
 
 #include <SDL.h>
@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <optional>
 #include <span>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -53,12 +52,6 @@ inline std::optional<Wave> ReadWave(std::span<const uint8_t> bytes) {
                         reinterpret_cast<const int16_t*>(buffer + length));
   SDL_FreeWAV(buffer);
   return wave;
-}
-
-inline int LineCount(const std::ostringstream& log) {
-  int lines = 0;
-  for (char c : log.str()) lines += c == '\n';
-  return lines;
 }
 
 }  // namespace qb::test

@@ -46,36 +46,25 @@ std::filesystem::path TempFile(const std::string& name, const std::vector<uint8_
   return path;
 }
 
+// One second of music: opened it is stopped; it plays, ends by itself without looping, and starts
+// again when the keep-alive timer asks.
 TEST(MusicDevice, TheModeFollowsTheCommandsAndAPieceThatEndsReportsStopped) {
   test::AudioDriver driver("dummy");
   std::ostringstream log;
   Audio audio(log);
   ASSERT_TRUE(audio.Open()) << log.str();
-  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
-  audio.SetMusicFileName(kMusic + "/POP.mid");
-  audio.SendMusicCommand(MusicCommand::Open);
-  EXPECT_EQ(audio.MusicMode(), kMusicModeStopped);  // opened, not yet playing
-  audio.SendMusicCommand(MusicCommand::Play);
-  audio.SendMusicCommand(MusicCommand::Play);  // playing on is not a restart
-  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
-  audio.SendMusicCommand(MusicCommand::Stop);
-  EXPECT_EQ(audio.MusicMode(), kMusicModeStopped);
-  audio.SendMusicCommand(MusicCommand::Close);
-  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
-
-  // One second of music ends by itself, is not looped, and starts again when asked.
   const auto score = music::ReadScore("tempo 240\ntrack program=flute\n c4 e4 g4 >c4\n");
-  ASSERT_TRUE(score.errors.empty());
   const auto path = TempFile("short.mid", music::WriteMidiFile(score.score));
+  audio.SetMusicFileName(path.string());
+  audio.SendMusicCommand(MusicCommand::Open);
+  EXPECT_EQ(audio.MusicMode(), kMusicModeStopped);
+  audio.SendMusicCommand(MusicCommand::Play);
+  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
+  EXPECT_TRUE(WaitForMode(audio, kMusicModeStopped, std::chrono::seconds(6)));
   StartTrack(audio, path.string());
   EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
-  const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(6);
-  while (audio.MusicMode() == kMusicModePlaying && std::chrono::steady_clock::now() < until)
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
-  EXPECT_EQ(audio.MusicMode(), kMusicModeStopped);
-  StartTrack(audio, path.string());  // what the keep-alive timer then does
-  EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
   audio.SendMusicCommand(MusicCommand::Close);
+  EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
   std::filesystem::remove(path);
   EXPECT_EQ(log.str(), "");
 }
@@ -87,25 +76,29 @@ TEST(MusicDevice, ABadPieceIsReportedOnceByNameAndPlaysNothing) {
   const std::string text = "this is not a MIDI file\n";
   const auto notMidi = TempFile("not-midi.mid", {text.begin(), text.end()});
   // One track whose first delta time runs over five bytes: not a variable length number.
-  const std::string head("MThd\0\0\0\x06\0\0\0\x01\0\x60MTrk\0\0\0\x08", 22);
-  const std::string damaged = head + "\xFF\xFF\xFF\xFF\xFF\x90\x3C\x40";
+  const std::string damaged = std::string("MThd\0\0\0\x06\0\0\0\x01\0\x60MTrk\0\0\0\x08", 22) +
+                              "\xFF\xFF\xFF\xFF\xFF\x90\x3C\x40";
   const auto bad = TempFile("damaged.mid", {damaged.begin(), damaged.end()});
   const std::string stderrCopy = bad.string() + ".err";
   std::fflush(stderr);
   const int savedStderr = ::dup(2);
   std::freopen(stderrCopy.c_str(), "w", stderr);
-  std::vector<std::string> logs;
-  for (const auto& path : {kMusic + "/no-such-piece.mid", notMidi.string(), bad.string()}) {
+  const std::pair<std::string, std::string> cases[] = {
+      {kMusic + "/no-such-piece.mid", "no-such-piece.mid"},
+      {notMidi.string(), "is not a MIDI file"},
+      {bad.string(), bad.string() + " cannot be played (Invalid variable length number)"}};
+  for (const auto& [path, message] : cases) {
     test::AudioDriver driver("dummy");
     std::ostringstream log;
     Audio audio(log);
     EXPECT_TRUE(audio.Open());
     for (int i = 0; i < 3; ++i) {
       StartTrack(audio, path);
-      WaitForMode(audio, kMusicModeNotReady, std::chrono::seconds(3));
-      EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady) << path;
+      EXPECT_TRUE(WaitForMode(audio, kMusicModeNotReady, std::chrono::seconds(3))) << path;
     }
-    logs.push_back(log.str());
+    const std::string lines = log.str();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 1) << lines;
+    EXPECT_NE(lines.find(message), std::string::npos) << lines;
     StartTrack(audio, kMusic + "/planet9.mid");
     EXPECT_EQ(audio.MusicMode(), kMusicModePlaying);
   }
@@ -116,37 +109,22 @@ TEST(MusicDevice, ABadPieceIsReportedOnceByNameAndPlaysNothing) {
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(copy), {}), "");
   for (const auto& f : {notMidi, bad, std::filesystem::path(stderrCopy)})
     std::filesystem::remove(f);
-  const std::string expected[] = {
-      "no-such-piece.mid", "is not a MIDI file",
-      bad.string() + " cannot be played (Invalid variable length number)"};
-  for (size_t i = 0; i < logs.size(); ++i) {
-    EXPECT_EQ(std::count(logs[i].begin(), logs[i].end(), '\n'), 1) << logs[i];
-    EXPECT_NE(logs[i].find(expected[i]), std::string::npos) << logs[i];
-  }
 }
 
+// Without a device, and before Open, effects and music are silent; the missing device is one line.
 TEST(AudioWithoutDevice, EverythingIsSilentAndReportedOnce) {
-  {
-    std::ostringstream log;
-    Audio audio(log);  // commands before Open do nothing
-    audio.PlayEffect("SOUND", 101);
-    StartTrack(audio, kMusic + "/planet9.mid");
-    EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
-    EXPECT_EQ(log.str(), "");
-  }
   test::AudioDriver driver("no-such-audio-driver");
   std::ostringstream log;
   Audio audio(log);
-  EXPECT_FALSE(audio.Open());
-  EXPECT_FALSE(audio.Open());
-  for (int n = 100; n <= 116; ++n) {
-    audio.PlayEffect("SOUND", n);
-    audio.PlayEffect("CUSTOM", n);
+  for (int i = 0; i < 3; ++i) {
+    audio.PlayEffect("SOUND", 101 + i);
+    StartTrack(audio, kMusic + "/planet9.mid");
+    EXPECT_FALSE(audio.Open());
   }
-  for (int i = 0; i < 3; ++i) StartTrack(audio, kMusic + "/planet9.mid");
+  const std::string text = log.str();
   EXPECT_EQ(audio.MusicMode(), kMusicModeNotReady);
-  EXPECT_EQ(test::LineCount(log), 1) << log.str();
-  EXPECT_NE(log.str().find("no audio device"), std::string::npos);
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
+  EXPECT_NE(text.find("no audio device"), std::string::npos);
 }
 
 }  // namespace

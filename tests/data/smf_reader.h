@@ -9,11 +9,10 @@
 namespace qb::test {
 
 struct MidiEvent {
-  int tick = 0;               // absolute
-  int status = 0;             // 0x80..0xEF channel messages, 0xFF meta
-  int data1 = 0;              // key / controller / program, or the meta type
-  int data2 = 0;              // velocity / value
-  std::vector<uint8_t> meta;  // meta event data
+  int tick = 0;    // absolute
+  int status = 0;  // 0x80..0xEF channel messages, 0xFF meta
+  int data1 = 0;   // key / controller / program, or the meta type
+  int data2 = 0;   // velocity / value
   int Channel() const { return (status & 0x0F) + 1; }
   int Kind() const { return status & 0xF0; }
 };
@@ -27,8 +26,6 @@ struct MidiFile {
   int format = 0;
   int division = 0;  // ticks per quarter note
   std::vector<MidiTrack> tracks;
-  // Seconds to the end of the longest track, following every tempo event of every track.
-  double Seconds() const;
 };
 
 // Nothing, with the reason in `why`, when the bytes are not a well-formed file.

@@ -1,5 +1,4 @@
-// quorbit-sim --verify judging a folder of replays, and the SHA-256 that ties a replay to its
-// level.
+// quorbit-sim --verify judging a folder of replays, each tied to its level by a SHA-256.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -15,21 +14,19 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string ReadText(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
   std::ostringstream s;
-  s << in.rdbuf();
+  s << std::ifstream(p, std::ios::binary).rdbuf();
   return s.str();
 }
 
 void WriteText(const fs::path& p, const std::string& text) {
-  std::ofstream(p, std::ios::binary) << text;
+  std::ofstream(p) << text;
 }
 
 TEST(VerifyReplays, AWinVerifiesAndEveryKindOfFaultIsNamed) {
   const fs::path dir = fs::temp_directory_path() / "quorbit-saved-replay-test";
   fs::remove_all(dir);
-  fs::create_directories(dir / "good");
-  fs::create_directories(dir / "bad");
+  for (const char* sub : {"good", "bad"}) fs::create_directories(dir / sub);
   const std::string won = "# level: Expert20.lvl\n# sha256: " +
                           Sha256Hex(ReadText(fs::path(QUORBIT_LEVELS_DIR) / "Expert20.lvl")) +
                           "\n" + ReadText(fs::path(QUORBIT_SOLUTIONS_DIR) / "Expert20.replay");
@@ -52,13 +49,6 @@ TEST(VerifyReplays, AWinVerifiesAndEveryKindOfFaultIsNamed) {
         "changed.replay: SHA-256 differs", "1 of 5 replays win"})
     EXPECT_NE(lines.find(expected), std::string::npos) << expected << " in\n" << lines;
   fs::remove_all(dir);
-}
-
-TEST(Sha256, StandardVectorsAcrossThePaddingBoundary) {
-  EXPECT_EQ(Sha256Hex(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
-  EXPECT_EQ(Sha256Hex("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-  EXPECT_EQ(Sha256Hex("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
-            "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
 }
 
 }  // namespace

@@ -5,13 +5,13 @@
 #include <fstream>
 #include <sstream>
 
-#include "support/game_compare.h"
 #include "file_host.h"
 #include "level/loader.h"
 #include "play/cycle.h"
 #include "play/player_acts.h"
 #include "play/replay.h"
 #include "play/step_history.h"
+#include "support/game_compare.h"
 
 namespace qb {
 namespace {
