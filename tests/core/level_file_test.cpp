@@ -41,20 +41,10 @@ TEST(LevelFile, EveryNumericTagOfEveryVariantFieldReadsTheSameValue) {
   const std::vector<VariantField> fields = {
       {"tier", 2, [](LevelBytes& b, Var v) { b.Skill = v; },
        [](const LevelData& d) { return d.Skill; }},
-      {"level number", 19, [](LevelBytes& b, Var v) { b.Number = v; },
-       [](const LevelData& d) { return d.Number; }},
-      {"character count", 100, [](LevelBytes& b, Var v) { b.CharactersTotal = v; },
-       [](const LevelData& d) { return d.CharactersTotal; }},
       {"time", 70000, [](LevelBytes& b, Var v) { b.TimeLeft = v; },
        [](const LevelData& d) { return d.TimeLeft; }},
       {"entrance flag", -1, [](LevelBytes& b, Var v) { b.Slots[2].EntranceActive = v; },
        [](const LevelData& d) { return d.Slots[2].EntranceActive; }},
-      {"trap column", 2, [](LevelBytes& b, Var v) { b.Slots[4].TrapX = v; },
-       [](const LevelData& d) { return d.Slots[4].TrapX; }},
-      {"teleport column", 1, [](LevelBytes& b, Var v) { b.Slots[3].TeleportX = v; },
-       [](const LevelData& d) { return d.Slots[3].TeleportX; }},
-      {"start view column", 80, [](LevelBytes& b, Var v) { b.StartViewX = v; },
-       [](const LevelData& d) { return d.StartViewX; }},
       {"grid height", 3, [](LevelBytes& b, Var v) { b.GridHeight = v; },
        [](const LevelData& d) { return static_cast<int32_t>(d.GridHeight); }},
   };
@@ -84,16 +74,6 @@ TEST(LevelFile, EveryNumericTagOfEveryVariantFieldReadsTheSameValue) {
       EXPECT_EQ(r.data, expected.data);
     }
   }
-  // Empty and Null read as 0: no time, an inactive entrance.
-  for (Var v : {Var::Empty(), Var::Null()}) {
-    LevelBytes b;
-    b.TimeLeft = v;
-    b.Slots[0].EntranceActive = v;
-    const LevelRead r = Read(b);
-    ASSERT_EQ(r.status, ReadStatus::Ok) << r.problem;
-    EXPECT_EQ(r.data.TimeLeft, 0);
-    EXPECT_EQ(r.data.Slots[0].EntranceActive, 0);
-  }
 }
 
 TEST(LevelFile, FloatingValuesRoundHalvesToEven) {
@@ -110,26 +90,6 @@ TEST(LevelFile, FloatingValuesRoundHalvesToEven) {
   }
 }
 
-TEST(LevelFile, TextsThatAreNotNumbersAndUnknownTagsAreRefused) {
-  for (const std::string text : {"abc", "", "12abc", "   "}) {
-    SCOPED_TRACE(text);
-    LevelBytes b;
-    b.TimeLeft = Var::String(text);
-    const LevelRead r = Read(b);
-    EXPECT_EQ(r.status, ReadStatus::Unsupported);
-    EXPECT_NE(r.problem.find("time"), std::string::npos) << r.problem;
-  }
-  // Date (7), Object (9), Byte (17) and Array (0x2002) are not tags a level uses.
-  for (int16_t tag : {7, 9, 17, 0x2002}) {
-    SCOPED_TRACE(tag);
-    LevelBytes b;
-    b.CharactersTotal = Var{tag, Var::Le(5, 2)};
-    const LevelRead r = Read(b);
-    EXPECT_EQ(r.status, ReadStatus::Unsupported);
-    EXPECT_NE(r.problem.find("tag " + std::to_string(tag)), std::string::npos) << r.problem;
-  }
-}
-
 // The grid is stored column by column; a file cut inside it loads with Empty squares.
 TEST(LevelFile, AFileCutInsideItsGridLoadsWithEmptySquares) {
   LevelBytes b;
@@ -142,21 +102,6 @@ TEST(LevelFile, AFileCutInsideItsGridLoadsWithEmptySquares) {
   EXPECT_EQ(r.data.Square(0, 2), 2);
   EXPECT_EQ(r.data.Square(1, 1), 5);
   EXPECT_EQ(r.data.Square(1, 2), 0);  // half a square reads Empty
-  EXPECT_EQ(r.data.Square(3, 0), 0);
-  EXPECT_EQ(r.data.Squares.size(), 12u);
-}
-
-TEST(LevelFile, InactiveSlotsOutsideTheLevelAndTheEdgeCountsAreAccepted) {
-  LevelBytes b;
-  b.Slots[1].EntranceX = Var::Integer(500);
-  b.Slots[2].TrapY = -7;
-  b.Slots[3].TeleportX = Var::Integer(4);
-  EXPECT_EQ(Read(b).status, ReadStatus::Ok);
-  for (int16_t count : {0, 100}) {
-    LevelBytes c;
-    c.CharactersTotal = Var::Integer(count);
-    EXPECT_EQ(Read(c).status, ReadStatus::Ok) << count;
-  }
 }
 
 // Writes the bytes to a file of the temporary folder and returns its path.

@@ -42,14 +42,11 @@ TEST(Replay, ARestartReplaysThePreviousAttemptExactlyThenHandsOver) {
   Form_KeyUp(t.g, KeyEscape);  // restart: this attempt becomes the recording
   EXPECT_EQ(t.g.ReplayLog(19), "E");
   EXPECT_EQ(t.g.ReplayPlaying, True);
-  EXPECT_TRUE(t.g.ui.Label8Visible);
   t.Ticks(19);
   EXPECT_EQ(Chars(t.g), before);
   EXPECT_EQ(t.g.ToolStock(ToolBuild), stock);
-  EXPECT_EQ(t.g.ReplayPlaying, True);
   t.Ticks(1);  // the "E": the player has the game from here
   EXPECT_EQ(t.g.ReplayPlaying, False);
-  EXPECT_FALSE(t.g.ui.Label8Visible);
   EXPECT_EQ(t.g.ReplayLog(10), "RD");  // re-recorded as it was replayed
 }
 
@@ -70,45 +67,14 @@ TEST(Replay, PressingAToolDuringAReplayTakesOverAndDropsTheRest) {
   EXPECT_EQ(t.g.ToolStock(ToolJump), 2);
 }
 
-TEST(Replay, ReplayOffPlaysNothingButStillRecords) {
-  TestGame t(Field());
-  t.g.ui.OptionsChecked(OptReplay) = false;
-  t.Ticks(7);
-  t.Use(ToolBuild);
-  LevelCmd_Click(t.g, 3);
-  EXPECT_EQ(t.g.ReplayPlaying, False);
-  t.Ticks(10);
-  EXPECT_EQ(t.g.ToolStock(ToolBuild), 3);
-  EXPECT_EQ(t.g.ReplayLog(7), "BE");
-}
-
-TEST(Replay, ARestartInCycleZeroLeavesNothingToReplay) {
-  TestGame t(Field());
-  t.g.ReplayLog(0) = "";  // as after a restart whose recording had nothing in cycle 0
-  LevelCmd_Click(t.g, 3);
-  EXPECT_EQ(t.g.ReplayLog(0), "E");
-  EXPECT_EQ(t.g.ReplayPlaying, False);
-  t.Ticks(1);
-  EXPECT_EQ(t.g.ReplayLog(0), "");
-}
-
 TEST(ReplayFile, ParsesCyclesJoinsLinesAndNamesTheBadLine) {
   const ReplayFile ok = ParseReplay("# a comment\n\n3 B\n3 J\n2000 L\r\n");
   EXPECT_TRUE(ok.error.empty());
   EXPECT_EQ(ok.slots[3], "BJ");
   EXPECT_EQ(ok.slots[2000], "L");
   EXPECT_EQ(ParseReplay("1 B\n2001 B\n").error, "line 2: cycle 2001 is not 0 to 2000");
-  EXPECT_EQ(ParseReplay("x\n").error.rfind("line 1:", 0), 0u);
   EXPECT_EQ(ParseReplay("1 Q\n").error, "line 1: \"Q\" is not a replay letter (C K B D J R X L E)");
-  EXPECT_EQ(ParseReplay("1\n").error, "line 1: no tool letters after the cycle number");
-  EXPECT_EQ(ParseReplay("5C\n").error,
-            "line 1: a blank must separate the cycle number from the letters");
-  EXPECT_EQ(ParseReplay("+7 K\n").error.rfind("line 1: expected a cycle number", 0), 0u);
-  EXPECT_EQ(ParseReplay("  # indented\n").error.rfind("line 1:", 0), 0u);
   EXPECT_EQ(ParseReplay("99999999999 B\n").error, "line 1: cycle 99999999999 is not 0 to 2000");
-  EXPECT_EQ(ParseReplay("00000021 K\n").error,
-            "line 1: the cycle number \"00000021\" starts with a zero; write it as a plain "
-            "number, 0 to 2000");
   // Lines end in LF, CRLF or CR alone; a CR-only file is not one long comment.
   const ReplayFile mac = ParseReplay("# old editor\r3 B\r\r4 J\r\n5 X");
   EXPECT_TRUE(mac.error.empty()) << mac.error;

@@ -29,15 +29,6 @@ TEST(Electric, TouchingFromTheSideFromAboveOrDiagonallyShocksButNotFromBelow) {
   EXPECT_EQ(overhead.C(0).X, 2);
 }
 
-TEST(Electric, TheLeaderShockedTurnsAllToolLabelsLightRed) {
-  TestGame t(MakeLevel({"....", "..Z.", "####"}, 0, 1, 2, 0));
-  t.Ticks(3);
-  for (int i = 0; i < 8; ++i) {
-    EXPECT_EQ(t.g.ui.Label1Back(i), kToolsLost);
-    EXPECT_EQ(t.g.ui.Label2Back(i), kToolsLost);
-  }
-}
-
 TEST(Liquids, WaterAheadIsSteppedOntoAndSplashesWithItsSoundLavaWithAnother) {
   for (char liquid : {'~', '^'}) {
     std::string row = "#####";
@@ -68,17 +59,6 @@ TEST(Teleports, AnUndefinedPartnerStillSendsToItsCoordinates) {
   TestGame t(d);
   t.Ticks(6);
   EXPECT_EQ(t.C(0).X, 8);
-}
-
-TEST(Teleports, ATeleportSquareNoSlotDescribesKeepsTheCharacterInPlace) {
-  LevelData d = MakeLevel({"..........", "....T.....", "##########"}, 0, 1, 1, 0);
-  TestGame t(d);
-  t.Ticks(5);  // steps into (4,1) in cycle 4
-  t.Ticks(2);
-  EXPECT_EQ(t.C(0).X, 4);
-  EXPECT_EQ(t.C(0).Teleporting, 4);
-  t.Ticks(1);
-  EXPECT_EQ(t.C(0).X, 5);
 }
 
 TEST(Traps, TwoCharactersOnTheTrapInOneTickOnlyTheLowerIndexIsCaught) {

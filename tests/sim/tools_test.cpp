@@ -37,16 +37,6 @@ TEST(Jump, AgainstAWallTwoHighItIsSpentAndWithSlowRunningTheArcIsThreeUpThreeDow
   EXPECT_EQ(slow.C(0).Y, 3);
 }
 
-TEST(Climb, ACeilingMakesTheLeaderGiveUpFacingBack) {
-  auto t = Play({"............", ".....MM.....", "......M.....", "......M.....", "MMMMMMMMMMMM"}, 3,
-                {1, 0, 0, 0, 0, 0, 0, 0});
-  t.Ticks(1);
-  t.Use(ToolClimb);
-  t.Ticks(7);
-  EXPECT_EQ(t.g.ClimbArmed, False);
-  EXPECT_EQ(t.C(0).Dir, -1);
-}
-
 TEST(Build, AStaircaseOverAGapThatTheCrowdFollowsToTheDoor) {
   std::vector<std::string> rows(9, std::string(16, '.'));
   rows[7] = "#####~~~########";

@@ -26,7 +26,6 @@ LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int to
                     int releaseInterval, int time) {
   LevelData d;
   d.Title = "Test";
-  d.Skill = 0;
   d.Number = 1;
   d.CharactersTotal = total;
   d.CharactersNeeded = static_cast<int16_t>(needed);
@@ -39,9 +38,7 @@ LevelData MakeLevel(const std::vector<std::string>& rows, int ex, int ey, int to
     for (int x = 0; x < d.GridWidth; ++x)
       d.Square(x, y) = static_cast<int16_t>(
           KindOf(rows[static_cast<std::size_t>(y)].at(static_cast<std::size_t>(x))));
-  d.Slots[0].EntranceActive = -1;
-  d.Slots[0].EntranceX = ex;
-  d.Slots[0].EntranceY = static_cast<int16_t>(ey);
+  d.Slots[0] = {-1, 0, 0, ex, static_cast<int16_t>(ey), 0, 0, 0, 0};
   return d;
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -15,19 +15,10 @@ struct Var {
   std::vector<uint8_t> value;
 
   static Var Empty() { return {0, {}}; }
-  static Var Null() { return {1, {}}; }
   static Var Integer(int16_t v) { return {2, Le(static_cast<uint16_t>(v), 2)}; }
   static Var Long(int32_t v) { return {3, Le(static_cast<uint32_t>(v), 4)}; }
-  static Var Single(float f) {
-    uint32_t u;
-    std::memcpy(&u, &f, 4);
-    return {4, Le(u, 4)};
-  }
-  static Var Double(double d) {
-    uint64_t u;
-    std::memcpy(&u, &d, 8);
-    return {5, Le(u, 8)};
-  }
+  static Var Single(float f) { return {4, Le(std::bit_cast<uint32_t>(f), 4)}; }
+  static Var Double(double d) { return {5, Le(std::bit_cast<uint64_t>(d), 8)}; }
   static Var String(const std::string& s) {
     Var v{8, Le(static_cast<uint16_t>(s.size()), 2)};
     v.value.insert(v.value.end(), s.begin(), s.end());
@@ -64,20 +55,14 @@ struct LevelBytes {
   int16_t CharactersNeeded = 3;
   Var TimeLeft = Var::Integer(200);
   std::array<int16_t, 8> ToolStock{0, 0, 2, 0, 1, 0, 0, 0};
-  std::array<SlotBytes, 6> Slots{};
+  std::array<SlotBytes, 6> Slots{{{.EntranceActive = Var::Boolean(true), .EntranceY = 1}}};
   Var StartViewX = Var::Integer(0);
   int16_t StartViewY = 0;
   int16_t GridWidth = 4;
   Var GridHeight = Var::Integer(3);
   int16_t ReleaseInterval = 2;
-  std::vector<int16_t> Columns;  // column-major kinds, as the file stores them
-
-  LevelBytes() {
-    Slots[0].EntranceActive = Var::Boolean(true);
-    Slots[0].EntranceY = 1;
-    // Columns 0..3 of rows 0..2: a floor on row 2 and the door at (3, 1).
-    Columns = {0, 0, 2, 0, 0, 2, 0, 0, 2, 0, 16, 2};
-  }
+  // Column-major kinds, as the file stores them: a floor on row 2 and the door at (3, 1).
+  std::vector<int16_t> Columns{0, 0, 2, 0, 0, 2, 0, 0, 2, 0, 16, 2};
 
   std::vector<uint8_t> Bytes() const {
     std::vector<uint8_t> out;
