@@ -33,6 +33,13 @@ class RecorderHost : public Host {
   }
   void Note(const std::string& text) override { notes.push_back(text); }
   bool PlayedSound(int number) const { return std::ranges::count(sounds, number) > 0; }
+  // Forgets what was recorded (the files stay), for a host that lives across many runs.
+  void Clear() {
+    sounds.clear();
+    screens.clear();
+    messages.clear();
+    notes.clear();
+  }
 };
 
 }  // namespace qb::test
