@@ -1,5 +1,5 @@
-// The Replay menu in the play window: a saved attempt replays the same in a fresh game, a changed
-// level is warned about, a bad file leaves the game alone, and a win is kept as it happens.
+// The Replay menu in the play window: a saved attempt replays the same in a fresh game, a bad file
+// leaves the game alone, and a win is kept as it happens.
 #include <QtTest>
 
 #include "core/records.h"
@@ -17,18 +17,17 @@ namespace {
 
 const char* const kLevel = "Expert20";
 
-void CopyLevel(Window& w, const std::function<void(QByteArray&)>& change = {}) {
-  QFile in(QString(QUORBIT_LEVELS_DIR) + "/" + kLevel + ".lvl");
-  QVERIFY(in.open(QIODevice::ReadOnly));
-  QByteArray bytes = in.readAll();
-  if (change) change(bytes);
-  QFile out(w.Folder() + "/Levels/" + kLevel + ".lvl");
-  QVERIFY(out.open(QIODevice::WriteOnly));
-  out.write(bytes);
+void CopyLevel(Window& w) {
+  QVERIFY(QFile::copy(QString(QUORBIT_LEVELS_DIR) + "/" + kLevel + ".lvl",
+                      w.Folder() + "/Levels/" + kLevel + ".lvl"));
+}
+
+QString SolutionPath() {
+  return QString(QUORBIT_SOLUTIONS_DIR) + "/" + kLevel + ".replay";
 }
 
 qb::ReplayFile Solution() {
-  QFile in(QString(QUORBIT_SOLUTIONS_DIR) + "/" + kLevel + ".replay");
+  QFile in(SolutionPath());
   in.open(QIODevice::ReadOnly);
   return qb::ParseReplay(in.readAll().toStdString());
 }
@@ -44,10 +43,6 @@ QString State(const qb::Game& g) {
     for (int x = 0; x < qb::kViewSize; ++x)
       s += QString::number(g.pic.Picture1.At(x, y).colour, 36);
   return s;
-}
-
-QString SolutionPath() {
-  return QString(QUORBIT_SOLUTIONS_DIR) + "/" + kLevel + ".replay";
 }
 
 // Runs `cycles` ticks; from cycle `pressFrom` on, the solution's tools are pressed by hand.
@@ -72,12 +67,12 @@ class ReplayWindowTest : public QObject {
   Q_OBJECT
  private Q_SLOTS:
   void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-  void savedAttemptReplaysTheSameAndAChangedLevelIsWarnedAbout();
+  void aSavedAttemptReplaysTheSameInAFreshGame();
   void aBadFileNamesTheLineAndLeavesTheGameAlone();
   void aWinIsKeptAsAReplayAndARecordBeforeTheWinScreen();
 };
 
-void ReplayWindowTest::savedAttemptReplaysTheSameAndAChangedLevelIsWarnedAbout() {
+void ReplayWindowTest::aSavedAttemptReplaysTheSameInAFreshGame() {
   const QString saved = QDir(QDir::tempPath()).filePath("quorbit-replay-window-test.replay");
   QStringList recorded;
   {
@@ -98,18 +93,6 @@ void ReplayWindowTest::savedAttemptReplaysTheSameAndAChangedLevelIsWarnedAbout()
     QCOMPARE(replayed.size(), recorded.size());
     for (int i = 0; i < recorded.size(); ++i)
       QVERIFY2(replayed[i] == recorded[i], qPrintable(QString("cycle %1 differs").arg(i)));
-  }
-  {
-    Window changed;
-    CopyLevel(changed, [](QByteArray& bytes) {
-      const auto at = bytes.indexOf("Every Trick");
-      QVERIFY(at >= 0);
-      bytes[at] = 'e';
-    });
-    const QString warning = changed.desk->Replay()->LoadFrom(saved);
-    QVERIFY2(warning.contains("has changed"), qPrintable(warning));
-    QCOMPARE(QString::fromStdString(changed.g.LevelTitle), QString("every Trick in the Book"));
-    QVERIFY(changed.g.ReplayPlaying);
   }
   QFile::remove(saved);
 }
@@ -156,9 +139,7 @@ void ReplayWindowTest::aWinIsKeptAsAReplayAndARecordBeforeTheWinScreen() {
                              qb::ui::ReplayMenu::ReplaysFolder().toStdString(), verdict),
            verdict.str().c_str());
   const auto record = qb::ReadRecord(store, "Expert20");
-  std::size_t tools = 0;
-  for (const std::string& slot : Solution().slots) tools += slot.size();
-  QVERIFY(record && record->fewestCycles == 1333 && record->fewestTools == static_cast<int>(tools));
+  QVERIFY(record && record->fewestCycles == 1333);
 }
 
 QTEST_MAIN(ReplayWindowTest)

@@ -64,12 +64,7 @@ void ViewTraceTest::theWindowShowsTheTracedPictureEveryCycle() {
         painter.end();
         const QImage shown = shot.copy(c * n, r * n, n, n);
         QVERIFY2(shown == expected,
-                 qPrintable(QString("cycle %1, square %2,%3: centre %4 shown, %5 traced")
-                                .arg(t)
-                                .arg(c)
-                                .arg(r)
-                                .arg(shown.pixel(n / 2, n / 2), 0, 16)
-                                .arg(expected.pixel(n / 2, n / 2), 0, 16)));
+                 qPrintable(QString("cycle %1, square %2,%3").arg(t).arg(c).arg(r)));
       }
   }
 }

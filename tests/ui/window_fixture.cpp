@@ -9,8 +9,8 @@
 
 namespace qb::test {
 
-Window::Window(const QString& folderName) {
-  QDir(folder.path()).mkpath(folderName + "/Levels");
+Window::Window() {
+  QDir(folder.path()).mkpath("program/Levels");
   g.ProgramFolder = Folder().toStdString();
   g.ui.OptionsChecked(OptMusic) = false;
   g.ui.OptionsChecked(OptSound) = false;
@@ -32,10 +32,7 @@ Window::Window(const QString& folderName) {
 }
 
 QString Window::Folder() const {
-  const QDir base(folder.path());
-  for (const QString& name : base.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-    return base.filePath(name);
-  return folder.path();
+  return folder.path() + "/program";
 }
 
 void Window::WriteBeginner(int number, const LevelData& level) {

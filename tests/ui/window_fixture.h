@@ -24,8 +24,8 @@ struct Window {
   std::vector<QString> faults;
   ui::FaultChoice faultAnswer = ui::FaultChoice::Close;
 
-  // `folderName` may hold spaces and accents; Beginner1 and Beginner2 are written into it.
-  explicit Window(const QString& folderName = "program");
+  // Writes Beginner1 and Beginner2 into the program folder.
+  Window();
   // Writes a level file as Beginner<number>.lvl of the program folder.
   void WriteBeginner(int number, const LevelData& level);
   // Loads Beginner `number` as the chooser does (title card recorded, not shown).

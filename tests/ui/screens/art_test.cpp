@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QImage>
-#include <QSet>
 #include <QTest>
 
 #include "ui/screens/screens.h"
@@ -28,8 +27,6 @@ class ArtTest : public QObject {
   Q_OBJECT
  private slots:
   void everySourceIsEmbeddedAndPaints();
-  void toolIconsAreEightSharpDifferentPictures();
-  void unknownArtGivesANullPixmap();
 };
 
 void ArtTest::everySourceIsEmbeddedAndPaints() {
@@ -48,26 +45,6 @@ void ArtTest::everySourceIsEmbeddedAndPaints() {
     QVERIFY2(PaintedPixels(p.toImage()) > natural.width() * natural.height() / 10,
              qPrintable(name + " paints almost nothing"));
   }
-  QVERIFY(AppIcon().availableSizes().size() >= 4);
-}
-
-// Eight different pictures (a resource mix-up would show one tool's icon for another), drawn at
-// the screen's pixel ratio.
-void ArtTest::toolIconsAreEightSharpDifferentPictures() {
-  QSet<QByteArray> seen;
-  for (int tool = 0; tool < 8; ++tool) {
-    const QPixmap p = RenderArt(ToolArtName(tool), QSize(24, 24), 2.0);
-    QCOMPARE(p.deviceIndependentSize(), QSizeF(24, 24));
-    const QImage image = p.toImage();
-    seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
-                           static_cast<int>(image.sizeInBytes())));
-  }
-  QCOMPARE(seen.size(), 8);
-}
-
-void ArtTest::unknownArtGivesANullPixmap() {
-  QVERIFY(ToolIcon(-1, 32).isNull() && ToolIcon(8, 32).isNull() && ToolIcon(0, 0).isNull());
-  QVERIFY(RenderArt(QStringLiteral("no-such-picture"), QSize(10, 10)).isNull());
 }
 
 QTEST_MAIN(ArtTest)
