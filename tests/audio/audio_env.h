@@ -38,7 +38,7 @@ inline constexpr Effect kEffects[] = {
 // An effect's image read as the mixer reads it, through SDL's WAV loader: its format and, for
 // 16-bit images, its samples. Nothing when SDL cannot read it.
 struct Wave {
-  SDL_AudioSpec spec{};
+  SDL_AudioSpec format{};
   std::vector<int16_t> samples;
 };
 inline std::optional<Wave> ReadWave(std::span<const uint8_t> bytes) {
@@ -46,8 +46,8 @@ inline std::optional<Wave> ReadWave(std::span<const uint8_t> bytes) {
   Uint8* buffer = nullptr;
   Uint32 length = 0;
   SDL_RWops* in = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
-  if (!SDL_LoadWAV_RW(in, 1, &wave.spec, &buffer, &length)) return std::nullopt;
-  if (SDL_AUDIO_BITSIZE(wave.spec.format) == 16)
+  if (!SDL_LoadWAV_RW(in, 1, &wave.format, &buffer, &length)) return std::nullopt;
+  if (SDL_AUDIO_BITSIZE(wave.format.format) == 16)
     wave.samples.assign(reinterpret_cast<const int16_t*>(buffer),
                         reinterpret_cast<const int16_t*>(buffer + length));
   SDL_FreeWAV(buffer);

@@ -21,9 +21,9 @@ TEST(BuiltInEffects, EveryEffectIsA16BitWaveAsLoudAsTheOthersWithoutClipping) {
     ASSERT_FALSE(bytes.empty());
     const auto wave = test::ReadWave(bytes);
     ASSERT_TRUE(wave) << SDL_GetError();
-    EXPECT_EQ(wave->spec.format, AUDIO_S16LSB);
-    EXPECT_EQ(wave->spec.channels, 1);
-    const double seconds = static_cast<double>(wave->samples.size()) / wave->spec.freq;
+    EXPECT_EQ(wave->format.format, AUDIO_S16LSB);
+    EXPECT_EQ(wave->format.channels, 1);
+    const double seconds = static_cast<double>(wave->samples.size()) / wave->format.freq;
     EXPECT_GT(seconds, 0.1);
     EXPECT_LT(seconds, 3.0);  // an effect, not a piece of music
     int peak = 0;

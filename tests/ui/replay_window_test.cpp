@@ -94,6 +94,19 @@ void ReplayWindowTest::aSavedAttemptReplaysTheSameInAFreshGame() {
     for (int i = 0; i < recorded.size(); ++i)
       QVERIFY2(replayed[i] == recorded[i], qPrintable(QString("cycle %1 differs").arg(i)));
   }
+  {
+    Window changed;  // one byte of the level's title differs: a warning, and it plays anyway
+    CopyLevel(changed);
+    QFile level(changed.Folder() + "/Levels/" + kLevel + ".lvl");
+    QVERIFY(level.open(QIODevice::ReadWrite));
+    QByteArray bytes = level.readAll();
+    bytes[bytes.indexOf("Every Trick")] = 'e';
+    level.seek(0);
+    level.write(bytes);
+    level.close();
+    QVERIFY(changed.desk->Replay()->LoadFrom(saved).contains("has changed"));
+    QVERIFY(changed.g.ReplayPlaying);
+  }
   QFile::remove(saved);
 }
 
