@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "app/start_up.h"
+#include "core/records.h"
 #include "ui/desktop/qsettings_store.h"
 #include "window_fixture.h"
 
@@ -38,6 +39,9 @@ void StartUpTest::badStoredValueFallsBackWithANote() {
 
 void StartUpTest::aWonLevelOutlivesAKilledGame() {
   qb::test::ClearStoredSettings();
+  const QString replays = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                          "/Quorbit2/Quorbit2/replays";
+  QDir(replays).removeRecursively();
   qb::test::Window levels;  // only for its program folder with Beginner1 and 2
   QTemporaryDir shots;
   QProcess game;
@@ -63,6 +67,9 @@ void StartUpTest::aWonLevelOutlivesAKilledGame() {
   std::ostringstream notes;
   qb::app::StartUp(g, store, steps, notes)->close();
   QCOMPARE(offered, 2);
+  // The won attempt was kept too: its record and its replay file.
+  QVERIFY(qb::ReadRecord(store, "Beginner1").has_value());
+  QVERIFY(!QDir(replays).entryList({"Beginner1 *.replay"}).isEmpty());
 }
 
 QTEST_MAIN(StartUpTest)
