@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <sstream>
 
 #include "core/level_file.h"
@@ -95,10 +94,15 @@ TEST_F(SimProcess, AFaultPrintsTheTraceSoFarAndExitsThree) {
 // The squares of a view line, "c,r" -> "colour,face".
 std::map<std::string, std::string> ViewSquares(const std::string& line) {
   std::map<std::string, std::string> squares;
-  const std::regex square(R"(\[(\d+),(\d+),(\d+),(\d+)\])");
-  const auto dots = line.begin() + static_cast<std::ptrdiff_t>(line.find("\"dots\""));
-  for (std::sregex_iterator it(line.begin(), dots, square), end; it != end; ++it)
-    squares[(*it)[1].str() + "," + (*it)[2].str()] = (*it)[3].str() + "," + (*it)[4].str();
+  const auto from = line.find("\"squares\":[") + 11, to = line.find("],\"dots\"");
+  std::istringstream in(line.substr(from, to - from));
+  long c, r, colour, face;  // a face may be negative: turned left
+  char ch;
+  while (in >> ch >> c >> ch >> r >> ch >> colour >> ch >> face >> ch) {
+    squares[std::to_string(c) + "," + std::to_string(r)] =
+        std::to_string(colour) + "," + std::to_string(face);
+    in >> ch;
+  }
   return squares;
 }
 
