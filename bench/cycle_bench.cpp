@@ -4,29 +4,13 @@
 
 #include <memory>
 
+#include "busy_level.h"
 #include "play/cycle.h"
-#include "support/level_builder.h"
 
 namespace {
 
-// 120 by 80: ten floors of long corridors with walls to turn at, one entrance per floor pair.
-qb::LevelData BusyLevel() {
-  std::vector<std::string> rows(80, std::string(120, '.'));
-  for (int floor = 0; floor < 10; ++floor) {
-    const int y = 7 + floor * 8;
-    rows[y] = std::string(120, 'M');
-    rows[y - 1][0] = rows[y - 2][0] = 'M';
-    rows[y - 1][119] = rows[y - 2][119] = 'M';
-    rows[y - 1][60] = '#';  // a step
-  }
-  qb::LevelData d = qb::test::MakeLevel(rows, 5, 6, 100, 100, 1, 30000);
-  for (int j = 0; j < 6; ++j)
-    d.Slots[j] = {-1, 0, 0, 5 + 18 * j, static_cast<int16_t>(6 + 8 * j), 0, 0, 0, 0};
-  return d;
-}
-
 void BM_CycleHundredWalking(benchmark::State& state) {
-  qb::test::TestGame t(BusyLevel());
+  qb::test::TestGame t(qb::bench::BusyLevel());
   t.g.ui.OptionsChecked(qb::OptSound) = false;
   t.Ticks(150);  // everyone released and walking
   int out = 0;
@@ -44,7 +28,7 @@ BENCHMARK(BM_CycleHundredWalking);
 
 // The same cycle with the drawing switched off, as searches and analyses run it.
 void BM_CycleHundredWalkingWithoutDrawing(benchmark::State& state) {
-  qb::test::TestGame t(BusyLevel());
+  qb::test::TestGame t(qb::bench::BusyLevel());
   t.g.ui.OptionsChecked(qb::OptSound) = false;
   t.g.Drawing = false;
   t.Ticks(150);
@@ -61,7 +45,7 @@ BENCHMARK(BM_CycleHundredWalkingWithoutDrawing);
 
 // Saving a game and restoring it: both are copies of the whole game.
 void BM_SaveAndRestoreGame(benchmark::State& state) {
-  qb::test::TestGame t(BusyLevel());
+  qb::test::TestGame t(qb::bench::BusyLevel());
   t.g.ui.OptionsChecked(qb::OptSound) = false;
   t.Ticks(150);
   auto saved = std::make_unique<qb::Game>(t.g);

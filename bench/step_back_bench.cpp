@@ -2,28 +2,14 @@
 // characters out: a copy of the game restored and up to one spacing of cycles run again.
 #include <benchmark/benchmark.h>
 
+#include "busy_level.h"
 #include "play/cycle.h"
 #include "play/step_history.h"
-#include "support/level_builder.h"
 
 namespace {
 
-qb::LevelData CrowdedLevel() {
-  std::vector<std::string> rows(80, std::string(120, '.'));
-  for (int floor = 0; floor < 10; ++floor) {
-    const int y = 7 + floor * 8;
-    rows[y] = std::string(120, 'M');
-    rows[y - 1][0] = rows[y - 2][0] = 'M';
-    rows[y - 1][119] = rows[y - 2][119] = 'M';
-  }
-  qb::LevelData d = qb::test::MakeLevel(rows, 5, 6, 100, 100, 1, 30000);
-  for (int j = 0; j < 6; ++j)
-    d.Slots[j] = {-1, 0, 0, 5 + 18 * j, static_cast<int16_t>(6 + 8 * j), 0, 0, 0, 0};
-  return d;
-}
-
 void BM_StepBackAfterTwoThousandCycles(benchmark::State& state) {
-  qb::test::TestGame t(CrowdedLevel());
+  qb::test::TestGame t(qb::bench::BusyLevel());
   t.g.ui.OptionsChecked(qb::OptSound) = false;
   qb::StepHistory history;
   for (int i = 0; i < 2000; ++i) {
