@@ -10,6 +10,7 @@
 
 #include "analysis/analyse.h"
 #include "analysis/solve.h"
+#include "command_input.h"
 #include "core/file_read.h"
 #include "level/loader.h"
 #include "level_files.h"
@@ -69,6 +70,8 @@ void PrintText(std::ostream& out, const std::string& level, const Analysis& a, d
       << std::fixed << std::setprecision(1) << Percent(a.space.visited, a.space.area)
       << "%); largest unvisited empty region " << a.space.region << " squares";
   if (a.space.region > 0) out << " from (" << a.space.regionX << ", " << a.space.regionY << ")";
+  out << "; largest sealed region " << a.space.sealed << " squares";
+  if (a.space.sealed > 0) out << " from (" << a.space.sealedX << ", " << a.space.sealedY << ")";
   out << "\n" << a.runs << " plays in " << std::setprecision(2) << seconds << " s\n";
 }
 
@@ -112,7 +115,8 @@ void PrintJson(std::ostream& out, const std::string& level, const Analysis& a, d
       << ",\"visited_share\":" << std::fixed << std::setprecision(4)
       << (a.space.area ? static_cast<double>(a.space.visited) / a.space.area : 0.0)
       << ",\"region\":" << a.space.region << ",\"region_x\":" << a.space.regionX
-      << ",\"region_y\":" << a.space.regionY << "}\n";
+      << ",\"region_y\":" << a.space.regionY << ",\"sealed\":" << a.space.sealed
+      << ",\"sealed_x\":" << a.space.sealedX << ",\"sealed_y\":" << a.space.sealedY << "}\n";
   out << "{\"plays\":" << a.runs << ",\"seconds\":" << std::setprecision(3) << seconds << "}\n";
 }
 
@@ -131,36 +135,6 @@ void PrintMarkdown(std::ostream& out, const Analysis& a) {
       << (a.noTools.Won() ? "won" : "lost") << " | " << (wins.empty() ? "none" : wins) << " | "
       << std::fixed << std::setprecision(1) << Percent(a.space.visited, a.space.area) << "% | "
       << a.space.region << " |\n";
-}
-
-// Takes "--name VALUE" out of the arguments; false when VALUE is missing.
-bool TakeValue(std::vector<std::string>& args, const std::string& name, std::string& value) {
-  for (std::size_t i = 0; i < args.size(); ++i)
-    if (args[i] == name) {
-      if (i + 1 >= args.size()) return false;
-      value = args[i + 1];
-      args.erase(args.begin() + static_cast<std::ptrdiff_t>(i),
-                 args.begin() + static_cast<std::ptrdiff_t>(i) + 2);
-      return true;
-    }
-  return true;
-}
-
-bool TakeFlag(std::vector<std::string>& args, const std::string& name) {
-  for (std::size_t i = 0; i < args.size(); ++i)
-    if (args[i] == name) {
-      args.erase(args.begin() + static_cast<std::ptrdiff_t>(i));
-      return true;
-    }
-  return false;
-}
-
-// A whole or decimal number in [low, high]; nothing otherwise.
-std::optional<double> Number(const std::string& text, double low, double high) {
-  std::istringstream in(text);
-  double v = 0;
-  if (!(in >> v) || !in.eof() || !std::isfinite(v) || v < low || v > high) return std::nullopt;
-  return v;
 }
 
 double SecondsSince(std::chrono::steady_clock::time_point t0) {
@@ -191,21 +165,13 @@ int Analyse(const std::vector<std::string>& given, std::ostream& out, std::ostre
     err << "usage: quorbit-level analyse LEVEL.lvl --replay SOLUTION [--json | --markdown]\n";
     return 2;
   }
-  const FileRead text = ReadSmallFile(replayPath, kMaxTextFileBytes);
-  if (!text.bytes) {
-    err << replayPath << ": error: cannot read the file: " << text.error << "\n";
-    return 1;
-  }
-  const ReplayFile replay = ParseReplay(std::string(text.bytes->begin(), text.bytes->end()));
-  if (!replay.error.empty()) {
-    err << replayPath << ": error: " << replay.error << "\n";
-    return 1;
-  }
+  const auto solution = ReadSolution(replayPath, err);
+  if (!solution) return 1;
   const auto level = LoadHeadless(args[0], err);
   if (!level) return 1;
   const auto t0 = std::chrono::steady_clock::now();
   try {
-    const Analysis a = Analyse(*level->game, PressesOf(replay.slots));
+    const Analysis a = Analyse(*level->game, *solution);
     if (json) {
       PrintJson(out, args[0], a, SecondsSince(t0));
     } else if (markdown) {

@@ -25,6 +25,9 @@ int Analyse(const std::vector<std::string>& args, std::ostream& out, std::ostrea
 // solve LEVEL.lvl [--max-presses K] [--seconds S]
 int Solve(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
+// limits LEVEL.lvl --replay SOLUTION | limits LEVEL.lvl... --solutions DIR [--search-states N]
+int Limits(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
 // render LEVEL.lvl -o LEVEL.png [--scale N]
 int Render(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 

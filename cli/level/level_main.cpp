@@ -16,6 +16,9 @@ int Usage(std::ostream& s, int status) {
        "       quorbit-level table FILE...      (a Markdown table of the levels)\n"
        "       quorbit-level analyse LEVEL.lvl --replay SOLUTION [--json | --markdown]\n"
        "       quorbit-level solve LEVEL.lvl [--max-presses K] [--seconds S]\n"
+       "       quorbit-level limits LEVEL.lvl --replay SOLUTION   (the limits of the level's "
+       "tier)\n"
+       "       quorbit-level limits LEVEL.lvl... --solutions DIR\n"
        "       quorbit-level render LEVEL.lvl -o LEVEL.png [--scale N]\n";
   return status;
 }
@@ -33,6 +36,7 @@ int main(int argc, char** argv) {
   if (command == "table") return Table(args, std::cout, std::cerr);
   if (command == "analyse") return Analyse(args, std::cout, std::cerr);
   if (command == "solve") return Solve(args, std::cout, std::cerr);
+  if (command == "limits") return Limits(args, std::cout, std::cerr);
 #ifdef QUORBIT_LEVEL_RENDER
   if (command == "render") return Render(args, std::cout, std::cerr);
 #endif

@@ -74,42 +74,70 @@ std::vector<SingleToolWins> SingleToolShortcuts(const Game& start, long& runs) {
   return wins;
 }
 
+namespace {
+
+struct Region {
+  int size = 0;
+  int x = -1, y = -1;
+};
+
+// The largest 4-connected region of squares `inside` takes, counting the squares `counts` takes
+// and skipping regions that hold a square `rejects` takes. Regions are met top row first.
+template <typename Inside, typename Counts, typename Rejects>
+Region LargestRegion(int w, int h, Inside inside, Counts counts, Rejects rejects) {
+  Region best;
+  std::vector<bool> seen(static_cast<std::size_t>(w * h), false);
+  std::vector<std::pair<int, int>> stack;
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) {
+      if (seen[x + w * y] || !inside(x, y)) continue;
+      int size = 0;
+      bool rejected = false;
+      stack.push_back({x, y});
+      seen[x + w * y] = true;
+      while (!stack.empty()) {
+        const auto [cx, cy] = stack.back();
+        stack.pop_back();
+        size += counts(cx, cy) ? 1 : 0;
+        rejected = rejected || rejects(cx, cy);
+        for (const auto& [nx, ny] :
+             {std::pair{cx - 1, cy}, {cx + 1, cy}, {cx, cy - 1}, {cx, cy + 1}}) {
+          if (nx < 0 || ny < 0 || nx >= w || ny >= h || seen[nx + w * ny] || !inside(nx, ny))
+            continue;
+          seen[nx + w * ny] = true;
+          stack.push_back({nx, ny});
+        }
+      }
+      if (!rejected && size > best.size) best = {size, x, y};
+    }
+  return best;
+}
+
+}  // namespace
+
 SpaceUse MeasureSpace(const Game& start, const std::vector<bool>& visited) {
   SpaceUse s;
   const int w = start.GridWidth, h = start.GridHeight;
   s.area = w * h;
-  const auto index = [](int x, int y) {
-    return static_cast<std::size_t>(x + GridTable::kColumns * y);
+  const auto entered = [&](int x, int y) {
+    return static_cast<bool>(visited[static_cast<std::size_t>(x + GridTable::kColumns * y)]);
   };
+  const auto empty = [&](int x, int y) { return start.Grid(x, y) == Empty; };
   for (int y = 0; y < h; ++y)
-    for (int x = 0; x < w; ++x) s.visited += visited[index(x, y)] ? 1 : 0;
-  std::vector<bool> seen(visited.size(), false);
-  std::vector<std::pair<int, int>> stack;
-  for (int y = 0; y < h; ++y)
-    for (int x = 0; x < w; ++x) {
-      if (seen[index(x, y)] || visited[index(x, y)] || start.Grid(x, y) != Empty) continue;
-      int size = 0;
-      stack.push_back({x, y});
-      seen[index(x, y)] = true;
-      while (!stack.empty()) {
-        const auto [cx, cy] = stack.back();
-        stack.pop_back();
-        ++size;
-        for (const auto& [nx, ny] :
-             {std::pair{cx - 1, cy}, {cx + 1, cy}, {cx, cy - 1}, {cx, cy + 1}}) {
-          if (nx < 0 || ny < 0 || nx >= w || ny >= h) continue;
-          const std::size_t n = index(nx, ny);
-          if (seen[n] || visited[n] || start.Grid(nx, ny) != Empty) continue;
-          seen[n] = true;
-          stack.push_back({nx, ny});
-        }
-      }
-      if (size > s.region) {
-        s.region = size;
-        s.regionX = x;
-        s.regionY = y;
-      }
-    }
+    for (int x = 0; x < w; ++x) s.visited += entered(x, y) ? 1 : 0;
+  const auto never = [](int, int) { return false; };
+  const auto always = [](int, int) { return true; };
+  const Region unvisited = LargestRegion(
+      w, h, [&](int x, int y) { return empty(x, y) && !entered(x, y); }, always, never);
+  s.region = unvisited.size;
+  s.regionX = unvisited.x;
+  s.regionY = unvisited.y;
+  const Region sealed = LargestRegion(
+      w, h, [&](int x, int y) { return empty(x, y) || entered(x, y); },
+      [&](int x, int y) { return empty(x, y) && !entered(x, y); }, entered);
+  s.sealed = sealed.size;
+  s.sealedX = sealed.x;
+  s.sealedY = sealed.y;
   return s;
 }
 

@@ -34,6 +34,10 @@ struct SpaceUse {
   // its first square (top row first, then leftmost).
   int region = 0;
   int regionX = -1, regionY = -1;
+  // The largest region of empty squares closed off from every square a character entered: open
+  // space the level's walls seal away (4-connected through empty and entered squares).
+  int sealed = 0;
+  int sealedX = -1, sealedY = -1;
 };
 
 struct Analysis {

@@ -14,7 +14,8 @@ struct TimeUp {};
 
 class Search {
  public:
-  Search(const Game& start, Clock::time_point deadline) : deadline_(deadline) {
+  Search(const Game& start, Clock::time_point deadline, long maxStates)
+      : deadline_(deadline), maxStates_(maxStates) {
     for (int t = 0; t < kToolCount; ++t)
       if (start.ToolStock(t) > 0) tools_.push_back(t);
   }
@@ -24,6 +25,7 @@ class Search {
   bool From(Game g, int left) {
     while (true) {
       if ((++states_ & 255) == 0 && Clock::now() > deadline_) throw TimeUp{};
+      if (maxStates_ > 0 && states_ > maxStates_) throw TimeUp{};
       Game next = g;
       const LevelEnd end = PlayCycle(next);
       if (end == LevelEnd::Won) return true;
@@ -68,6 +70,7 @@ class Search {
   }
 
   Clock::time_point deadline_;
+  long maxStates_;
   std::vector<int> tools_;
   std::unordered_map<uint64_t, int> seen_;
   Presses path_;
@@ -83,7 +86,12 @@ Solution Solve(const Game& start, const SolveLimits& limits) {
   Game first = start;
   Schedule(first, {});
   for (int k = 0; k <= limits.maxPresses; ++k) {
-    Search search(first, deadline);
+    const long left = limits.maxStates > 0 ? limits.maxStates - s.states : 0;
+    if (limits.maxStates > 0 && left <= 0) {
+      s.result = SolveResult::Undetermined;
+      return s;
+    }
+    Search search(first, deadline, left);
     try {
       const bool won = search.From(first, k);
       s.states += search.States();

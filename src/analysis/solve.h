@@ -10,8 +10,10 @@ namespace qb::analysis {
 struct SolveLimits {
   int maxPresses = 2;
   double seconds = 60;
+  long maxStates = 0;  // game states to look at before giving up; 0: no bound but the time
 };
 
+// Undetermined: the time or the states ran out first.
 enum class SolveResult { Found, NoneWithin, Undetermined };
 
 struct Solution {

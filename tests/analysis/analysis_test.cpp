@@ -93,6 +93,18 @@ TEST(Analysis, WindowsRedundancyShortcutsAndSpaceOfTwoExactBuilds) {
   EXPECT_FALSE(visited[5 + 120 * 2]);
   EXPECT_EQ(a.space.regionX, 1);
   EXPECT_EQ(a.space.regionY, 0);
+  EXPECT_EQ(a.space.sealed, 0);  // the sky is open to the path
+
+  // A pocket carved into the solid wall is sealed; one opened onto the path is not.
+  Game carved = level.g;
+  for (const auto& [x, y] : {std::pair{24, 6}, {25, 6}, {24, 7}, {25, 7}})
+    carved.Grid(x, y) = Empty;
+  const SpaceUse pocket = MeasureSpace(carved, visited);
+  EXPECT_EQ(pocket.sealed, 4);
+  EXPECT_EQ(pocket.sealedX, 24);
+  EXPECT_EQ(pocket.sealedY, 6);
+  for (int y = 4; y <= 6; ++y) carved.Grid(23, y) = Empty;  // a shaft up to the walkway
+  EXPECT_EQ(MeasureSpace(carved, visited).sealed, 0);
 }
 
 // The walker turns at each wall and passes column 8 to the right again and again: a Build laid
