@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "analysis/analyse.h"
+#include "analysis/limits.h"
 #include "analysis/solve.h"
 #include "command_input.h"
 #include "core/file_read.h"
@@ -120,21 +121,32 @@ void PrintJson(std::ostream& out, const std::string& level, const Analysis& a, d
   out << "{\"plays\":" << a.runs << ",\"seconds\":" << std::setprecision(3) << seconds << "}\n";
 }
 
-// One row of the levels' figures table, after the level's own cells.
-void PrintMarkdown(std::ostream& out, const Analysis& a) {
+// One row of the levels' figures table, after the level's own cells: what a player feels of the
+// solution (the narrowest windows, moved alone / with the later presses), its margins, and the
+// shortcuts and space.
+void PrintMarkdown(std::ostream& out, const Analysis& a, const std::vector<int>& stock) {
   std::string redundant, wins;
-  for (const PressFigures& f : a.presses)
+  int alone = 0, shifted = 0;
+  Presses presses;
+  for (const PressFigures& f : a.presses) {
     if (f.redundant)
       redundant +=
           (redundant.empty() ? "" : ", ") + std::to_string(f.press.cycle) + " " + f.press.letter;
+    alone = presses.empty() ? f.alone.Width() : std::min(alone, f.alone.Width());
+    shifted = presses.empty() ? f.shifted.Width() : std::min(shifted, f.shifted.Width());
+    presses.push_back(f.press);
+  }
   for (const SingleToolWins& w : a.singleTool)
     if (!w.cycles.empty()) wins += (wins.empty() ? "" : ", ") + WinsText(w);
   out << EndName(a.result) << " in " << a.result.cycles << " of " << a.limit << " | "
-      << a.presses.size() << " | " << CountWidthOne(a, false) << " / " << CountWidthOne(a, true)
-      << " | " << (redundant.empty() ? "none" : redundant) << " | "
-      << (a.noTools.Won() ? "won" : "lost") << " | " << (wins.empty() ? "none" : wins) << " | "
-      << std::fixed << std::setprecision(1) << Percent(a.space.visited, a.space.area) << "% | "
-      << a.space.region << " |\n";
+      << a.presses.size() << " | "
+      << (presses.empty() ? "-" : std::to_string(alone) + " / " + std::to_string(shifted)) << " | "
+      << CountWidthOne(a, false) << " / " << CountWidthOne(a, true) << " | "
+      << SpareTools(stock, presses) << " | " << a.result.saved - a.needed << " | " << std::fixed
+      << std::setprecision(0) << Percent(a.limit - a.result.cycles, a.limit) << "% | "
+      << (redundant.empty() ? "none" : redundant) << " | " << (a.noTools.Won() ? "won" : "lost")
+      << " | " << (wins.empty() ? "none" : wins) << " | " << std::setprecision(1)
+      << Percent(a.space.visited, a.space.area) << "% | " << a.space.sealed << " |\n";
 }
 
 double SecondsSince(std::chrono::steady_clock::time_point t0) {
@@ -175,7 +187,9 @@ int Analyse(const std::vector<std::string>& given, std::ostream& out, std::ostre
     if (json) {
       PrintJson(out, args[0], a, SecondsSince(t0));
     } else if (markdown) {
-      PrintMarkdown(out, a);
+      std::vector<int> stock;
+      for (int t = 0; t < kToolCount; ++t) stock.push_back(level->game->ToolStock(t));
+      PrintMarkdown(out, a, stock);
     } else {
       PrintText(out, args[0], a, SecondsSince(t0));
     }
