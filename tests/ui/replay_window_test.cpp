@@ -117,7 +117,7 @@ void ReplayWindowTest::aSavedAttemptReplaysTheSameInAFreshGame() {
     QFile level(changed.Folder() + "/Levels/" + kLevel + ".lvl");
     QVERIFY(level.open(QIODevice::ReadWrite));
     QByteArray bytes = level.readAll();
-    bytes[bytes.indexOf("Every Trick")] = 'e';
+    bytes[2] = bytes[2] == 'e' ? 'f' : 'e';  // the title's first letter, after its length
     level.seek(0);
     level.write(bytes);
     level.close();
