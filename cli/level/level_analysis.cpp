@@ -12,7 +12,7 @@
 #include "analysis/solve.h"
 #include "core/file_read.h"
 #include "level/loader.h"
-#include "level_files.h"
+#include "leveltext/level_files.h"
 #include "play/replay.h"
 
 namespace qb::leveltext {
