@@ -63,6 +63,7 @@ AnalysisPanel::AnalysisPanel(QWidget* parent) : QWidget(parent) {
 
   others_ = new QListWidget(this);
   others_->setWordWrap(true);
+  others_->setMaximumHeight(others_->fontMetrics().height() * 6);
   column->addWidget(others_);
 
   const auto place = [this](const QVariant& v) {

@@ -83,6 +83,8 @@ TryWindow::TryWindow(const LevelData& level, const QString& solutionPath, QWidge
       if (!loaded_) result_->setText(QString::fromStdString(load.message));
     });
   }
+  // The level's title is Latin-1, one byte a character.
+  if (loaded_) setWindowTitle("Try It: " + QString::fromLatin1(g.LevelTitle.c_str()));
   if (loaded_) result_->setText("Tools: keys 1 to 8. P pauses, Enter plays fast, Esc restarts.");
   ended_ = !loaded_;
   save_->setEnabled(loaded_);
@@ -93,7 +95,7 @@ TryWindow::TryWindow(const LevelData& level, const QString& solutionPath, QWidge
 TryWindow::~TryWindow() = default;
 
 void TryWindow::BuildWidgets() {
-  setWindowTitle("Try It");
+  setWindowTitle("Try It");  // with the level's title once it is loaded
   setFocusPolicy(Qt::StrongFocus);
   auto* column = new QVBoxLayout(this);
   auto* row = new QHBoxLayout();
