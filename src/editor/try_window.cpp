@@ -77,10 +77,13 @@ TryWindow::TryWindow(const LevelData& level, const QString& solutionPath, QWidge
   } else {
     file.close();
     g.LevelFile = path.toStdString();
-    Run([this, &g] {
+    Run([this, &g, &path] {
       const LoadOutcome load = LoadLevel(g, g.LevelFile);
       loaded_ = load.Loaded();
-      if (!loaded_) result_->setText(QString::fromStdString(load.message));
+      // The message names the level by its file's name, not the temporary folder's.
+      if (!loaded_)
+        result_->setText(
+            QString::fromStdString(load.message).replace(path, QFileInfo(path).fileName()));
     });
   }
   // The level's title is Latin-1, one byte a character.

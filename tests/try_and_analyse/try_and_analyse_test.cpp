@@ -93,6 +93,15 @@ void TryAndAnalyseTest::TryWindowWinsByKeyAndSavesASolutionTheRunnerWins() {
   QCOMPARE(g.ToolStock(qb::ToolBuild), 1);
   TickUntil(w, [&] { return ended; });
   QVERIFY(w.Won());
+
+  // A level the game refuses is not played: the loader's message, and keys do nothing.
+  qb::LevelData refused = OneWall();
+  refused.CharactersTotal = 101;
+  qb::editor::TryWindow no(refused, {});
+  QTest::keyClick(&no, Qt::Key_3);
+  QTest::keyClick(&no, Qt::Key_Escape);
+  QVERIFY(no.ResultLabel()->text().startsWith("The level file level.lvl cannot be played"));
+  QVERIFY(no.AttemptReplay().empty() && !no.game().ui.Timer1Enabled);
 }
 
 void TryAndAnalyseTest::AnalysisPanelShowsTheFiguresAndMarksOfAShippedSolution() {
