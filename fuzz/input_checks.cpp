@@ -9,7 +9,7 @@
 #include "core/settings.h"
 #include "findings.h"
 #include "level/loader.h"
-#include "level_text.h"
+#include "leveltext/level_text.h"
 #include "play/commands.h"
 #include "play/cycle.h"
 #include "play/replay.h"

@@ -6,10 +6,10 @@
 #include <ostream>
 
 #include "core/file_read.h"
-#include "level_check.h"
-#include "level_files.h"
-#include "level_table.h"
-#include "level_text.h"
+#include "leveltext/level_check.h"
+#include "leveltext/level_files.h"
+#include "leveltext/level_table.h"
+#include "leveltext/level_text.h"
 
 namespace qb::leveltext {
 namespace {

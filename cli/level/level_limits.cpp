@@ -51,7 +51,7 @@ bool CheckLevel(const std::string& path, const std::string& solutionPath, long s
   const auto solution = ReadSolution(solutionPath, err);
   const auto loaded = LoadHeadless(path, err);
   if (!solution || !loaded) return false;
-  const Game& g = *loaded->game;
+  const Game& g = loaded->game;
   LevelUnderTest level{g.CurrentSkill, g.LevelNumber, {}, nullptr, std::nullopt};
   for (int t = 0; t < kToolCount; ++t) level.stock.push_back(g.ToolStock(t));
   const Analysis a = Analyse(g, *solution);

@@ -2,6 +2,7 @@
 #include "analysis/analyse.h"
 
 #include <functional>
+#include <utility>
 
 namespace qb::analysis {
 
@@ -79,6 +80,7 @@ namespace {
 struct Region {
   int size = 0;
   int x = -1, y = -1;
+  std::vector<Place> squares;  // the squares counted, the first one first
 };
 
 // The largest 4-connected region of squares `inside` takes, counting the squares `counts` takes
@@ -91,14 +93,14 @@ Region LargestRegion(int w, int h, Inside inside, Counts counts, Rejects rejects
   for (int y = 0; y < h; ++y)
     for (int x = 0; x < w; ++x) {
       if (seen[x + w * y] || !inside(x, y)) continue;
-      int size = 0;
+      std::vector<Place> squares;
       bool rejected = false;
       stack.push_back({x, y});
       seen[x + w * y] = true;
       while (!stack.empty()) {
         const auto [cx, cy] = stack.back();
         stack.pop_back();
-        size += counts(cx, cy) ? 1 : 0;
+        if (counts(cx, cy)) squares.push_back({cx, cy});
         rejected = rejected || rejects(cx, cy);
         for (const auto& [nx, ny] :
              {std::pair{cx - 1, cy}, {cx + 1, cy}, {cx, cy - 1}, {cx, cy + 1}}) {
@@ -108,7 +110,8 @@ Region LargestRegion(int w, int h, Inside inside, Counts counts, Rejects rejects
           stack.push_back({nx, ny});
         }
       }
-      if (!rejected && size > best.size) best = {size, x, y};
+      const int size = static_cast<int>(squares.size());
+      if (!rejected && size > best.size) best = {size, x, y, std::move(squares)};
     }
   return best;
 }
@@ -132,12 +135,14 @@ SpaceUse MeasureSpace(const Game& start, const std::vector<bool>& visited) {
   s.region = unvisited.size;
   s.regionX = unvisited.x;
   s.regionY = unvisited.y;
+  s.regionSquares = unvisited.squares;
   const Region sealed = LargestRegion(
       w, h, [&](int x, int y) { return empty(x, y) || entered(x, y); },
       [&](int x, int y) { return empty(x, y) && !entered(x, y); }, entered);
   s.sealed = sealed.size;
   s.sealedX = sealed.x;
   s.sealedY = sealed.y;
+  s.sealedSquares = sealed.squares;
   return s;
 }
 
@@ -149,7 +154,10 @@ Analysis Analyse(const Game& start, const Presses& solution) {
   a.needed = start.CharactersNeeded;
   a.total = start.CharactersTotal;
   if (a.result.Won())
-    for (std::size_t i = 0; i < r.Base().size(); ++i) a.presses.push_back(Figures(r, i, a.limit));
+    for (std::size_t i = 0; i < r.Base().size(); ++i) {
+      a.presses.push_back(Figures(r, i, a.limit));
+      if (i < r.LeaderAtPresses().size()) a.presses.back().leader = r.LeaderAtPresses()[i];
+    }
   a.noTools = r.Run({});
   a.singleTool = SingleToolShortcuts(start, a.runs);
   a.space = MeasureSpace(start, r.Visited());

@@ -7,7 +7,11 @@ namespace qb::analysis {
 namespace {
 
 PressFigures Figures(int cycle, char letter, int alone, int shifted) {
-  return {{cycle, letter}, {cycle, cycle + alone - 1}, {cycle, cycle + shifted - 1}, false};
+  PressFigures f;
+  f.press = {cycle, letter};
+  f.alone = {cycle, cycle + alone - 1};
+  f.shifted = {cycle, cycle + shifted - 1};
+  return f;
 }
 
 // A won level of `area` squares with all its figures comfortably inside every tier's limits.
@@ -19,7 +23,8 @@ Analysis Comfortable() {
   a.total = 10;
   a.noTools = {LevelEnd::Lost, 200, 0};
   a.presses = {Figures(10, 'C', 6, 6), Figures(40, 'B', 6, 6), Figures(80, 'B', 6, 6)};
-  a.space = {400, 60, 30, 0, 0, 0};
+  a.space.area = 400;
+  a.space.visited = 60;
   return a;
 }
 
@@ -54,7 +59,8 @@ TEST(Limits, EachFigureBreaksItsTierLimitJustPastIt) {
   a.space.visited = 31;  // 7.75% of 400
   a.space.sealed = 41;
   EXPECT_EQ(Check(3, a, stock).size(), 2u);
-  a.space = {400, 32, 30, 0, 40, 1, 1};
+  a.space.visited = 32;
+  a.space.sealed = 40;
   EXPECT_EQ(Check(3, a, stock).size(), 0u);
 }
 

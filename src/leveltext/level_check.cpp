@@ -1,9 +1,9 @@
 // Checking a level file as the game would read it, plus the sanity rules of a playable level.
-#include "level_check.h"
+#include "leveltext/level_check.h"
 
 #include <algorithm>
 
-#include "level_ranges.h"
+#include "leveltext/level_ranges.h"
 
 namespace qb::leveltext {
 namespace {

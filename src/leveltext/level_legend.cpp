@@ -1,5 +1,5 @@
 // The names the level text form uses: grid characters, square kind names, tools and tiers.
-#include "level_legend.h"
+#include "leveltext/level_legend.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 // Printing a LevelData in the text form that the parser reads back.
-#include "level_legend.h"
-#include "level_text.h"
+#include "leveltext/level_legend.h"
+#include "leveltext/level_text.h"
 
 namespace qb::leveltext {
 namespace {

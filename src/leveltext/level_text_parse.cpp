@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "core/quoted.h"
-#include "level_legend.h"
-#include "level_ranges.h"
-#include "level_text.h"
+#include "leveltext/level_legend.h"
+#include "leveltext/level_ranges.h"
+#include "leveltext/level_text.h"
 
 namespace qb::leveltext {
 namespace {

@@ -1,12 +1,12 @@
 // Checking levels for what makes them unplayable, and the summary table of levels.
-#include "level_check.h"
+#include "leveltext/level_check.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 
-#include "level_table.h"
-#include "level_text.h"
+#include "leveltext/level_table.h"
+#include "leveltext/level_text.h"
 
 namespace qb::test {
 namespace {

@@ -1,7 +1,7 @@
 // The values the text form of a level can hold.
-#include "level_ranges.h"
+#include "leveltext/level_ranges.h"
 
-#include "level_legend.h"
+#include "leveltext/level_legend.h"
 
 namespace qb::leveltext {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/level_file.h"
-#include "level_text.h"
+#include "leveltext/level_text.h"
 
 namespace qb::leveltext {
 

@@ -1,10 +1,10 @@
 // A Markdown table that sums up levels, one row each.
-#include "level_table.h"
+#include "leveltext/level_table.h"
 
 #include <algorithm>
 
-#include "level_legend.h"
-#include "level_text.h"
+#include "leveltext/level_legend.h"
+#include "leveltext/level_text.h"
 
 namespace qb::leveltext {
 namespace {

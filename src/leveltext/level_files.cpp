@@ -1,5 +1,5 @@
 // Writing files so that a failed write leaves nothing behind.
-#include "level_files.h"
+#include "leveltext/level_files.h"
 
 #include <unistd.h>
 

@@ -1,5 +1,5 @@
 // The text form of levels: round trips through text and binary, and errors that name their line.
-#include "level_text.h"
+#include "leveltext/level_text.h"
 
 #include <gtest/gtest.h>
 
