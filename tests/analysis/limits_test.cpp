@@ -84,7 +84,10 @@ TEST(Limits, ShortcutsAndRedundantPresses) {
   const std::vector<int> stock = {2, 0, 3, 0, 0, 0, 0, 0};
   Analysis a = Comfortable();
   a.noTools = {LevelEnd::Won, 200, 9};
-  EXPECT_EQ(Breaches({0, 2, stock, &a, std::nullopt}).size(), 0u);  // a walking lesson
+  a.presses.clear();
+  EXPECT_EQ(Breaches({0, 2, std::vector<int>(8, 0), &a, std::nullopt}).size(), 0u);  // a walk
+  EXPECT_EQ(Breaches({0, 2, stock, &a, std::nullopt}).size(), 1u);  // tools, none used
+  a.presses = Comfortable().presses;
   EXPECT_EQ(Breaches({0, 3, stock, &a, std::nullopt}).size(), 1u);
   a = Comfortable();
   a.singleTool = {{0, {}}, {2, {55}}};
