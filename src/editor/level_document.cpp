@@ -59,6 +59,7 @@ void LevelDocument::NewLevel() {
   d.Squares.assign(40 * 40, 0);
   undo_.clear();
   textPreamble_.clear();
+  openedText_.clear();
   path_.clear();
   Set(d);
   Q_EMIT pathChanged();
@@ -72,9 +73,9 @@ bool LevelDocument::Open(const QString& path, QString& error) {
     return false;
   }
   LevelData read;
-  std::string preamble;
+  std::string preamble, text;
   if (IsText(path)) {
-    const std::string text(file.bytes->begin(), file.bytes->end());
+    text.assign(file.bytes->begin(), file.bytes->end());
     const leveltext::ParsedLevel parsed = leveltext::ParseLevelText(text);
     if (!parsed.ok()) {
       std::string all;
@@ -94,6 +95,8 @@ bool LevelDocument::Open(const QString& path, QString& error) {
   }
   undo_.clear();
   textPreamble_ = preamble;
+  openedText_ = text;
+  openedData_ = read;
   path_ = path;
   Set(read);
   Q_EMIT pathChanged();
@@ -101,7 +104,10 @@ bool LevelDocument::Open(const QString& path, QString& error) {
 }
 
 std::string LevelDocument::FileBytes(const QString& path) const {
-  if (IsText(path)) return textPreamble_ + leveltext::PrintLevelText(data_);
+  if (IsText(path)) {
+    if (!openedText_.empty() && data_ == openedData_) return openedText_;
+    return textPreamble_ + leveltext::PrintLevelText(data_);
+  }
   const std::vector<uint8_t> bytes = WriteLevel(data_);
   return {bytes.begin(), bytes.end()};
 }

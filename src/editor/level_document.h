@@ -43,6 +43,10 @@ class LevelDocument : public QObject {
   LevelData data_;
   QString path_;
   std::string textPreamble_;  // the comment lines above a text level's keys, kept on save
+  // A text level as it was opened: saved as it is while the level is unchanged, so its author's
+  // order of keys and lines stays as long as nothing is edited.
+  std::string openedText_;
+  LevelData openedData_;
   QUndoStack undo_;
 };
 

@@ -40,6 +40,7 @@ class MapCanvas : public QWidget {
   // Outlined squares: the analysis' marks, and one square a problem names.
   void SetMarks(std::vector<Square> marks);
   void Highlight(std::optional<Square> square);
+  const std::optional<Square>& Highlighted() const { return highlight_; }
 
  Q_SIGNALS:
   void hovered(int x, int y);  // the square under the mouse, also outside the level
