@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "analysis/analyse.h"
+#include "analysis/analysis_text.h"
 #include "analysis/solve.h"
 #include "core/file_read.h"
 #include "level/loader.h"
@@ -20,56 +21,11 @@ namespace {
 
 using namespace qb::analysis;
 
-// A play stopped once too few could still be saved counts as lost.
-const char* EndName(const Outcome& o) {
-  return o.end == LevelEnd::None ? "lost" : ResultWord(o.end);
-}
-
-std::string Range(const Window& w) {
-  return std::to_string(w.earliest) + ".." + std::to_string(w.latest) + " (" +
-         std::to_string(w.Width()) + ")";
-}
-
-int CountWidthOne(const Analysis& a, bool shifted) {
-  int n = 0;
-  for (const PressFigures& f : a.presses) n += (shifted ? f.shifted : f.alone).Width() == 1;
-  return n;
-}
-
-double Percent(int part, int whole) {
-  return whole > 0 ? 100.0 * part / whole : 0.0;
-}
-
-std::string WinsText(const SingleToolWins& w) {
-  std::string name(1, kReplayLetters[w.tool]);
-  if (w.cycles.empty()) return name + " never";
-  if (w.cycles.size() == 1) return name + " at 1 cycle (" + std::to_string(w.cycles[0]) + ")";
-  return name + " at " + std::to_string(w.cycles.size()) + " cycles (" +
-         std::to_string(w.cycles.front()) + ".." + std::to_string(w.cycles.back()) + ")";
-}
-
 void PrintText(std::ostream& out, const std::string& level, const Analysis& a, double seconds) {
-  out << level << ": " << EndName(a.result) << ", saved " << a.result.saved << " / needed "
-      << a.needed << " / total " << a.total << ", " << a.result.cycles << " of " << a.limit
-      << " cycles\n";
-  if (!a.result.Won()) out << "no windows: the solution does not win\n";
-  if (a.result.Won())
-    out << "presses: " << a.presses.size()
-        << ", with a window of one cycle: " << CountWidthOne(a, false) << " moved alone, "
-        << CountWidthOne(a, true) << " moved with the later ones\n";
-  for (const PressFigures& f : a.presses)
-    out << "  cycle " << f.press.cycle << " " << f.press.letter << ": alone " << Range(f.alone)
-        << ", with the later ones " << Range(f.shifted) << (f.redundant ? ", redundant" : "")
-        << "\n";
-  out << "no tools: " << EndName(a.noTools) << " (saved " << a.noTools.saved << ")\n";
-  out << "one tool:";
-  for (const SingleToolWins& w : a.singleTool) out << " " << WinsText(w) << ";";
-  out << (a.singleTool.empty() ? " none in stock\n" : "\n");
-  out << "space: " << a.space.visited << " of " << a.space.area << " squares visited ("
-      << std::fixed << std::setprecision(1) << Percent(a.space.visited, a.space.area)
-      << "%); largest unvisited empty region " << a.space.region << " squares";
-  if (a.space.region > 0) out << " from (" << a.space.regionX << ", " << a.space.regionY << ")";
-  out << "\n" << a.runs << " plays in " << std::setprecision(2) << seconds << " s\n";
+  out << level << ": " << ResultLine(a) << "\n" << PressesLine(a) << "\n";
+  for (const PressFigures& f : a.presses) out << "  " << PressLine(f) << "\n";
+  out << NoToolsLine(a) << "\n" << OneToolLine(a) << "\n" << SpaceLine(a) << "\n";
+  out << a.runs << " plays in " << std::fixed << std::setprecision(2) << seconds << " s\n";
 }
 
 // A file name as a JSON string: quotes, backslashes and control characters escaped.
@@ -124,7 +80,7 @@ void PrintMarkdown(std::ostream& out, const Analysis& a) {
       redundant +=
           (redundant.empty() ? "" : ", ") + std::to_string(f.press.cycle) + " " + f.press.letter;
   for (const SingleToolWins& w : a.singleTool)
-    if (!w.cycles.empty()) wins += (wins.empty() ? "" : ", ") + WinsText(w);
+    if (!w.cycles.empty()) wins += (wins.empty() ? "" : ", ") + SingleToolText(w);
   out << EndName(a.result) << " in " << a.result.cycles << " of " << a.limit << " | "
       << a.presses.size() << " | " << CountWidthOne(a, false) << " / " << CountWidthOne(a, true)
       << " | " << (redundant.empty() ? "none" : redundant) << " | "
@@ -169,16 +125,11 @@ double SecondsSince(std::chrono::steady_clock::time_point t0) {
 
 }  // namespace
 
-std::unique_ptr<LoadedLevel> LoadHeadless(const std::string& path, std::ostream& err) {
-  auto level = std::make_unique<LoadedLevel>();
-  level->game = std::make_unique<Game>(level->host);
-  Game& g = *level->game;
-  MakeHeadless(g);
-  g.LevelFile = path;
-  if (const LoadOutcome load = LoadLevel(g, path); !load.Loaded()) {
-    err << path << ": error: " << load.message << "\n";
-    return nullptr;
-  }
+std::unique_ptr<analysis::HeadlessLevel> LoadHeadless(const std::string& path, std::ostream& err) {
+  const FileRead file = ReadSmallFile(path, kMaxLevelFileBytes);
+  std::string refusal;
+  auto level = analysis::LoadHeadless(path, file.bytes.value_or(std::vector<uint8_t>{}), refusal);
+  if (!level) err << path << ": error: " << refusal << "\n";
   return level;
 }
 
@@ -205,7 +156,7 @@ int Analyse(const std::vector<std::string>& given, std::ostream& out, std::ostre
   if (!level) return 1;
   const auto t0 = std::chrono::steady_clock::now();
   try {
-    const Analysis a = Analyse(*level->game, PressesOf(replay.slots));
+    const Analysis a = Analyse(level->game, PressesOf(replay.slots));
     if (json) {
       PrintJson(out, args[0], a, SecondsSince(t0));
     } else if (markdown) {
@@ -235,7 +186,7 @@ int Solve(const std::vector<std::string>& given, std::ostream& out, std::ostream
   if (!level) return 1;
   const auto t0 = std::chrono::steady_clock::now();
   try {
-    const Solution found = qb::analysis::Solve(*level->game, {static_cast<int>(*k), *s});
+    const Solution found = qb::analysis::Solve(level->game, {static_cast<int>(*k), *s});
     out << "# " << args[0] << ": ";
     if (found.result == SolveResult::Found)
       out << "won with " << found.presses.size() << " presses";

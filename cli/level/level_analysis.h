@@ -6,18 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "core/game.h"
-#include "file_host.h"
+#include "analysis/headless_level.h"
 
 namespace qb::leveltext {
 
-// A level loaded by the game's own loader into a game that never draws.
-struct LoadedLevel {
-  FileHost host;
-  std::unique_ptr<Game> game;
-};
-// Nothing, with the reason on `err`, when the game refuses the file.
-std::unique_ptr<LoadedLevel> LoadHeadless(const std::string& path, std::ostream& err);
+// The level file at `path` loaded by the game's own loader into a game that never draws;
+// nothing, with the reason on `err`, when the game refuses the file.
+std::unique_ptr<analysis::HeadlessLevel> LoadHeadless(const std::string& path, std::ostream& err);
 
 // analyse LEVEL.lvl --replay SOLUTION [--json | --markdown]
 int Analyse(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);

@@ -43,7 +43,7 @@ int Render(const std::vector<std::string>& given, std::ostream& out, std::ostrea
   }
   const auto level = LoadHeadless(args[0], err);
   if (!level) return 1;
-  const Game& g = *level->game;
+  const Game& g = level->game;
   QImage image(g.GridWidth * scale, g.GridHeight * scale, QImage::Format_RGB32);
   QPainter p(&image);
   for (int x = 0; x < g.GridWidth; ++x)

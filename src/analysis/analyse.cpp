@@ -2,6 +2,7 @@
 #include "analysis/analyse.h"
 
 #include <functional>
+#include <utility>
 
 namespace qb::analysis {
 
@@ -88,13 +89,13 @@ SpaceUse MeasureSpace(const Game& start, const std::vector<bool>& visited) {
   for (int y = 0; y < h; ++y)
     for (int x = 0; x < w; ++x) {
       if (seen[index(x, y)] || visited[index(x, y)] || start.Grid(x, y) != Empty) continue;
-      int size = 0;
+      std::vector<Place> region;
       stack.push_back({x, y});
       seen[index(x, y)] = true;
       while (!stack.empty()) {
         const auto [cx, cy] = stack.back();
         stack.pop_back();
-        ++size;
+        region.push_back({cx, cy});
         for (const auto& [nx, ny] :
              {std::pair{cx - 1, cy}, {cx + 1, cy}, {cx, cy - 1}, {cx, cy + 1}}) {
           if (nx < 0 || ny < 0 || nx >= w || ny >= h) continue;
@@ -104,10 +105,11 @@ SpaceUse MeasureSpace(const Game& start, const std::vector<bool>& visited) {
           stack.push_back({nx, ny});
         }
       }
-      if (size > s.region) {
-        s.region = size;
+      if (static_cast<int>(region.size()) > s.region) {
+        s.region = static_cast<int>(region.size());
         s.regionX = x;
         s.regionY = y;
+        s.regionSquares = std::move(region);
       }
     }
   return s;
@@ -121,7 +123,10 @@ Analysis Analyse(const Game& start, const Presses& solution) {
   a.needed = start.CharactersNeeded;
   a.total = start.CharactersTotal;
   if (a.result.Won())
-    for (std::size_t i = 0; i < r.Base().size(); ++i) a.presses.push_back(Figures(r, i, a.limit));
+    for (std::size_t i = 0; i < r.Base().size(); ++i) {
+      a.presses.push_back(Figures(r, i, a.limit));
+      if (i < r.LeaderAtPresses().size()) a.presses.back().leader = r.LeaderAtPresses()[i];
+    }
   a.noTools = r.Run({});
   a.singleTool = SingleToolShortcuts(start, a.runs);
   a.space = MeasureSpace(start, r.Visited());

@@ -16,6 +16,7 @@ struct Window {
 
 struct PressFigures {
   Press press;
+  Place leader;            // the leader's square when the press is made (-1 before he is out)
   Window alone;            // the press moved, every other press kept where it is
   Window shifted;          // the press and every later one moved by the same number of cycles
   bool redundant = false;  // the level is won without it
@@ -34,6 +35,7 @@ struct SpaceUse {
   // its first square (top row first, then leftmost).
   int region = 0;
   int regionX = -1, regionY = -1;
+  std::vector<Place> regionSquares;  // the region's squares, its first one first
 };
 
 struct Analysis {

@@ -15,7 +15,13 @@ struct Press {
   char letter = 'B';
   bool operator==(const Press&) const = default;
 };
-using Presses = std::vector<Press>;  // in cycle order; one cycle's letters in the order pressed
+using Presses = std::vector<Press>;
+
+// A square of the level, column and row; -1 for none.
+struct Place {
+  int x = -1, y = -1;
+  bool operator==(const Place&) const = default;
+};  // in cycle order; one cycle's letters in the order pressed
 
 // "&Sound" and music off, "&Replay Levels" on, no title card, no drawing: set before the load.
 void MakeHeadless(Game& g);

@@ -48,8 +48,14 @@ Replayer::Replayer(const Game& start, Presses base, int copies) : base_(std::mov
 
   visited_.assign(GridTable::kColumns * GridTable::kRows, false);
   Game g = first;
+  std::size_t nextPress = 0;
   while (true) {
     if (baseOutcome_.cycles % stride_ == 0) copies_.push_back(std::make_unique<Game>(g));
+    // The replay applies a cycle's presses first thing in it, where the leader stands now.
+    for (; nextPress < base_.size() && base_[nextPress].cycle == g.ReplayTick; ++nextPress) {
+      const CharRecord& leader = g.Chars(g.Leader);
+      leaderAtPresses_.push_back(leader.Out ? Place{leader.X, leader.Y} : Place{});
+    }
     baseOutcome_.end = PlayCycle(g);
     ++baseOutcome_.cycles;
     MarkVisits(g, visited_);

@@ -29,6 +29,8 @@ class Replayer {
   const Outcome& BaseOutcome() const { return baseOutcome_; }
   // The squares some character stood on during the base run, by x + 120 * y.
   const std::vector<bool>& Visited() const { return visited_; }
+  // The leader's square as each press of the base is made, none while he is not out.
+  const std::vector<Place>& LeaderAtPresses() const { return leaderAtPresses_; }
 
   // The outcome of the level played with `presses` (in cycle order) instead of the base.
   Outcome Run(const Presses& presses) const;
@@ -40,6 +42,7 @@ class Replayer {
   int stride_ = 1;  // cycles between two kept copies
   std::vector<std::unique_ptr<Game>> copies_;
   std::vector<bool> visited_;
+  std::vector<Place> leaderAtPresses_;
   mutable int runs_ = 0;
 };
 

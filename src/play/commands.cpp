@@ -79,8 +79,12 @@ void ToolButtonDown(Game& g, int tool) {
 }
 
 void ToolButtonUp(Game& g, int tool) {
-  if (tool != ToolBuild && tool != ToolJump) return;
-  ToolButtonDown(g, tool);
+  FinishLevel(g, ToolReleased(g, tool));
+}
+
+LevelEnd ToolReleased(Game& g, int tool) {
+  if (tool != ToolBuild && tool != ToolJump) return LevelEnd::None;
+  return PressTool(g, tool);
 }
 
 void Label3_MouseDown(Game& g, int index, bool rightButton) {

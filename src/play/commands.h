@@ -23,6 +23,9 @@ void Form_KeyUp(Game& g, int keyCode);
 // Any button on a tool's icon or labels.
 void ToolButtonDown(Game& g, int tool);
 void ToolButtonUp(Game& g, int tool);
+// What a tool button's release does before the level's end follows: Build and Jump are used
+// again, the others do nothing. Returns how the level ended in it, or None.
+LevelEnd ToolReleased(Game& g, int tool);
 // The status-panel labels: "Pause" (0) and "Fast" (1), and "Restart".
 void Label3_MouseDown(Game& g, int index, bool rightButton);
 void Label3_MouseUp(Game& g, int index, bool rightButton);

@@ -35,7 +35,8 @@ void Fast(Game& g) {
   g.ui.Label3Back(1) = fastNow ? kSystemWindow : kFastOn;
 }
 
-void Restart(Game& g) {
+// Stops the attempt and ends its replay where it stopped.
+void StopAttempt(Game& g) {
   g.ui.Timer1Enabled = false;
   g.SkipTitle = True;
   g.ReplayLog(g.ReplayTick) += "E";
@@ -44,6 +45,10 @@ void Restart(Game& g) {
     g.pic.Picture1.Clear();
     g.pic.Backing.Clear();
   }
+}
+
+void Restart(Game& g) {
+  StopAttempt(g);
   if (g.SavedCount >= g.CharactersNeeded) {
     g.SkipTitle = False;
     GoToNextLevel(g);
@@ -86,6 +91,11 @@ void LevelCmd_Click(Game& g, int index) {
     default:
       break;
   }
+}
+
+void RestartLevel(Game& g) {
+  StopAttempt(g);
+  OpenLevel(g, g.LevelFile);
 }
 
 void OptionsCmd_Click(Game& g, int index) {

@@ -14,5 +14,5 @@ if [ ! -f "$custom/CMakeCache.txt" ]; then
     -DCMAKE_INSTALL_BINDIR="$3" -DCMAKE_INSTALL_DATADIR="$4" >/dev/null
 fi
 nice -n 10 cmake --build "$custom" \
-  --target quorbit2 quorbit-sim quorbit-level levels quorbit_music icons manuals >/dev/null
+  --target quorbit2 quorbit-sim quorbit-level quorbit-edit levels quorbit_music icons manuals >/dev/null
 bash "$here/install_test.sh" "$custom"

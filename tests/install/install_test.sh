@@ -15,12 +15,14 @@ trap 'rm -rf "$home"' EXIT
 prefix="$home/quorbit install"  # a path with a space on purpose
 cmake --install "$build" --prefix "$prefix" >/dev/null
 
-for f in "$bin/quorbit2" "$bin/quorbit-sim" "$bin/quorbit-level" \
+for f in "$bin/quorbit2" "$bin/quorbit-sim" "$bin/quorbit-level" "$bin/quorbit-edit" \
          "$data/quorbit2/Levels/Beginner1.lvl" "$data/quorbit2/Music/planet9.mid" \
          "$data/quorbit2/Solutions/Beginner1.replay" \
          "$root/applications/quorbit2.desktop" "$root/icons/hicolor/48x48/apps/quorbit2.png" \
          "$root/icons/hicolor/scalable/apps/quorbit2.svg" "$man/man6/quorbit-sim.6.gz" \
-         "$man/man6/quorbit-level.6.gz"; do
+         "$man/man6/quorbit-level.6.gz" "$root/applications/quorbit-edit.desktop" \
+         "$root/icons/hicolor/48x48/apps/quorbit-edit.png" \
+         "$root/icons/hicolor/scalable/apps/quorbit-edit.svg" "$man/man6/quorbit-edit.6.gz"; do
   [ -e "$prefix/$f" ] || fail "$f is not installed"
 done
 echo "installed $(ls "$prefix/$data/quorbit2/Levels" | wc -l) levels in $data/quorbit2"
@@ -39,4 +41,10 @@ out=$(cd / && HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/
   fail "the installed game exited with an error: $out"
 echo "$out"
 grep -qE "^cycles [1-9]" <<<"$out" || fail "the installed game did not play: $out"
+# The installed editor starts away from the build with an installed level and keeps running
+# until it is stopped (status 124 from timeout).
+status=0
+(cd / && HOME="$home" XDG_CONFIG_HOME="$home/.config" QT_QPA_PLATFORM=offscreen \
+  timeout 5 "$prefix/$bin/quorbit-edit" "$prefix/$data/quorbit2/Levels/Beginner1.lvl") || status=$?
+[ "$status" -eq 124 ] || fail "the installed editor ended with status $status"
 echo "install test passed"

@@ -17,7 +17,10 @@ for f in ./usr/bin/quorbit2 ./usr/bin/quorbit-sim ./usr/bin/quorbit-level \
          ./usr/share/quorbit2/Solutions/Expert20.replay \
          ./usr/share/applications/quorbit2.desktop \
          ./usr/share/icons/hicolor/256x256/apps/quorbit2.png \
-         ./usr/share/man/man6/quorbit2.6.gz; do
+         ./usr/share/man/man6/quorbit2.6.gz ./usr/bin/quorbit-edit \
+         ./usr/share/applications/quorbit-edit.desktop \
+         ./usr/share/icons/hicolor/256x256/apps/quorbit-edit.png \
+         ./usr/share/man/man6/quorbit-edit.6.gz; do
   grep -q " $f\$" <<<"$contents" || fail "$f is not in the package"
 done
 depends=$(dpkg-deb -f "$deb" Depends)
