@@ -39,6 +39,7 @@ class MapCanvas : public QWidget {
   void SetSelection(std::optional<Area> area);
   // Outlined squares: the analysis' marks, and one square a problem names.
   void SetMarks(std::vector<Square> marks);
+  const std::vector<Square>& Marks() const { return marks_; }
   void Highlight(std::optional<Square> square);
   const std::optional<Square>& Highlighted() const { return highlight_; }
 

@@ -1,6 +1,7 @@
 // The level editor driven as a designer drives it: drawing, undo, slots, properties, files.
 #include <QDir>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -8,11 +9,13 @@
 #include <sstream>
 
 #include "core/squares.h"
+#include "editor/analysis_panel.h"
 #include "editor/main_window.h"
 #include "editor/map_canvas.h"
 #include "editor/problems_panel.h"
 #include "editor/properties_panel.h"
 #include "editor/slots_panel.h"
+#include "editor/try_window.h"
 #include "sim_run.h"
 
 using namespace qb;
@@ -199,6 +202,27 @@ void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
   const SimOutcome run = RunSimulation(options, out, err);
   QCOMPARE(run.exitStatus, 0);
   QVERIFY2(out.str().find(R"("result":"won")") != std::string::npos, out.str().c_str());
+
+  // Level > Try It plays it in the play view; the won attempt goes beside it as its solution.
+  bool won = false;
+  QTimer::singleShot(0, [&] {
+    auto* tryIt = qobject_cast<TryWindow*>(QApplication::activeModalWidget());
+    for (int i = 0; tryIt && i < 1000 && !tryIt->Won(); ++i) tryIt->Tick();
+    won = tryIt && tryIt->Won();
+    for (QPushButton* b : tryIt ? tryIt->findChildren<QPushButton*>() : QList<QPushButton*>{})
+      if (b->text().startsWith("Save Attempt")) b->click();
+    if (tryIt) tryIt->reject();
+  });
+  w.Action("tryIt")->trigger();
+  QVERIFY(won);
+  QVERIFY(FileContent(dir.filePath("Made.replay")).contains("won"));
+  // Level > Analyse plays that solution; the map outlines the squares the panel marks.
+  w.Action("analyse")->trigger();
+  auto* panel = w.findChild<AnalysisPanel*>();
+  QTRY_VERIFY_WITH_TIMEOUT(!panel->Busy(), 30000);
+  QVERIFY2(panel->Text().contains("cycles"), qPrintable(panel->Text()));
+  QVERIFY(!panel->Marks().empty());
+  QCOMPARE(w.Canvas().Marks().size(), panel->Marks().size());
 }
 
 void EditorTest::aRefusedFileShowsTheLoadersMessageAndKeepsTheOpenLevel() {
