@@ -104,8 +104,11 @@ void MainWindow::BuildDocks() {
   });
 
   problems_ = new ProblemsPanel(doc_, this);
-  dock("Problems", problems_, Qt::BottomDockWidgetArea);
+  QDockWidget* problems = dock("Problems", problems_, Qt::BottomDockWidgetArea);
   connect(problems_, &ProblemsPanel::showSquare, this, &MainWindow::ShowSquare);
+  // The map keeps most of the room; the lists need only a few lines.
+  resizeDocks({problems}, {120}, Qt::Vertical);
+  resizeDocks({findChild<QDockWidget*>("Properties")}, {320}, Qt::Horizontal);
 }
 
 void MainWindow::BuildMenus() {

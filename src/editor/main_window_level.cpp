@@ -40,6 +40,7 @@ void MainWindow::BuildLevelMenu() {
   dock->setObjectName("Analysis");
   dock->setWidget(panel);
   addDockWidget(Qt::BottomDockWidgetArea, dock);
+  tabifyDockWidget(findChild<QDockWidget*>("Problems"), dock);
   dock->hide();
   connect(panel, &AnalysisPanel::marksChanged, this, [this, panel] {
     std::vector<Square> marks;
@@ -59,6 +60,7 @@ void MainWindow::BuildLevelMenu() {
     QFile solution(SolutionPath(doc_.Path()));
     if (solution.open(QIODevice::ReadOnly)) replay = solution.readAll().toStdString();
     dock->show();
+    dock->raise();
     panel->Analyse(doc_.Data(), replay);
   });
 #else

@@ -16,23 +16,29 @@ QKeySequence KindShortcut(int kind) {
   return QKeySequence(Qt::ALT | (Qt::Key_0 + kind - 10));
 }
 
-PalettePanel::PalettePanel(QWidget* parent) : QListWidget(parent) {
+PalettePanel::PalettePanel(QWidget* parent) : QTreeWidget(parent) {
   setIconSize({20, 20});
+  setRootIsDecorated(false);
+  setHeaderLabels({"Square", "Key"});
   for (int k = 0; k < kKindCount; ++k) {
     QPixmap swatch(20, 20);
     swatch.fill(KindColour(k));
     QPainter(&swatch).drawRect(0, 0, 19, 19);
     const std::string_view name = leveltext::KindName(k);
-    addItem(new QListWidgetItem(
-        swatch, QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())) + "\t" +
-                    KindShortcut(k).toString(QKeySequence::NativeText)));
+    auto* item = new QTreeWidgetItem(
+        this, {QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())),
+               KindShortcut(k).toString(QKeySequence::NativeText)});
+    item->setIcon(0, swatch);
   }
-  connect(this, &QListWidget::currentRowChanged, this, &PalettePanel::kindChosen);
+  resizeColumnToContents(0);
+  connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+    if (item) Q_EMIT kindChosen(indexOfTopLevelItem(item));
+  });
 }
 
 void PalettePanel::ShowKind(int kind) {
   const QSignalBlocker block(this);
-  setCurrentRow(kind);
+  setCurrentItem(topLevelItem(kind));
 }
 
 }  // namespace qb::editor

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <QKeySequence>
-#include <QListWidget>
+#include <QTreeWidget>
 
 namespace qb::editor {
 
 // The key that chooses a kind: 0 to 9 for the first ten, Alt with 0 to 7 for the rest.
 QKeySequence KindShortcut(int kind);
 
-class PalettePanel : public QListWidget {
+class PalettePanel : public QTreeWidget {
   Q_OBJECT
  public:
   explicit PalettePanel(QWidget* parent = nullptr);
