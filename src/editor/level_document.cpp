@@ -63,6 +63,7 @@ void LevelDocument::NewLevel() {
   path_.clear();
   Set(d);
   Q_EMIT pathChanged();
+  Q_EMIT replaced();
 }
 
 bool LevelDocument::Open(const QString& path, QString& error) {
@@ -100,6 +101,7 @@ bool LevelDocument::Open(const QString& path, QString& error) {
   path_ = path;
   Set(read);
   Q_EMIT pathChanged();
+  Q_EMIT replaced();
   return true;
 }
 

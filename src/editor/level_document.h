@@ -38,6 +38,7 @@ class LevelDocument : public QObject {
  Q_SIGNALS:
   void changed();
   void pathChanged();
+  void replaced();  // another level took the place of the one edited (new or opened)
 
  private:
   LevelData data_;

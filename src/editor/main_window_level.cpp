@@ -55,6 +55,8 @@ void MainWindow::BuildLevelMenu() {
     else
       Q_EMIT panel->marksChanged();
   });
+  // An analysis speaks of the level it played: a new or opened level puts it away.
+  connect(&doc_, &LevelDocument::replaced, dock, &QDockWidget::hide);
   AddAction(level, "analyse", "&Analyse", Qt::Key_F6, [this, panel, dock] {
     std::string replay;
     QFile solution(SolutionPath(doc_.Path()));

@@ -116,8 +116,8 @@ void MapCanvas::paintEvent(QPaintEvent* event) {
   p.setPen(QPen(QColor(255, 200, 0), 1, Qt::DashLine));
   p.drawRect(view.adjusted(1, 1, -1, -1));
 
-  p.setPen(QPen(QColor(220, 0, 220), 2));
-  for (const Square s : marks_) p.drawRect(SquareRect(s).adjusted(1, 1, -1, -1));
+  // A wash rather than a colour of its own, so that the marked square's kind still shows.
+  for (const Square s : marks_) p.fillRect(SquareRect(s), QColor(255, 120, 0, 110));
   if (highlight_) {
     p.setPen(QPen(Qt::red, 3));
     p.drawRect(SquareRect(*highlight_).adjusted(-2, -2, 2, 2));

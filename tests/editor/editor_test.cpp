@@ -223,6 +223,9 @@ void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
   QVERIFY2(panel->Text().contains("cycles"), qPrintable(panel->Text()));
   QVERIFY(!panel->Marks().empty());
   QCOMPARE(w.Canvas().Marks().size(), panel->Marks().size());
+  // They belong to the level analysed: another level opened takes them off the map.
+  QVERIFY(w.OpenFile(path));
+  QVERIFY(w.Canvas().Marks().empty());
 }
 
 void EditorTest::aRefusedFileShowsTheLoadersMessageAndKeepsTheOpenLevel() {
