@@ -217,7 +217,7 @@ void MainWindow::ZoomBy(int steps, QPoint pixel) {
   for (int i = 0; i < std::abs(steps); ++i)
     zoom = steps > 0 ? std::max(zoom + 1, zoom * 5 / 4) : std::min(zoom - 1, zoom * 4 / 5);
   canvas_->SetZoom(zoom);
-  if (!pixel.isNull()) ShowSquare(under.x, under.y);
+  if (!pixel.isNull()) ScrollTo(under.x, under.y);
 }
 
 void MainWindow::FitToWindow() {
@@ -227,10 +227,14 @@ void MainWindow::FitToWindow() {
                             room.height() / std::max<int>(d.GridHeight, 1)));
 }
 
-void MainWindow::ShowSquare(int x, int y) {
+void MainWindow::ScrollTo(int x, int y) {
   const QPoint centre = canvas_->CentreOf({x, y});
   scroll_->ensureVisible(centre.x(), centre.y(), scroll_->viewport()->width() / 2,
                          scroll_->viewport()->height() / 2);
+}
+
+void MainWindow::ShowSquare(int x, int y) {
+  ScrollTo(x, y);
   canvas_->Highlight(Square{x, y});
 }
 

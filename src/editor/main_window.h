@@ -46,6 +46,8 @@ class MainWindow : public QMainWindow {
   QAction* Action(const QString& name) const;  // by its object name, for tests
   void UseTool(DrawTool tool);
   void FitToWindow();
+  // Scrolls the square into the middle of the view; ShowSquare outlines it as well.
+  void ScrollTo(int x, int y);
   void ShowSquare(int x, int y);
 
  protected:

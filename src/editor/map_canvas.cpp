@@ -30,6 +30,10 @@ MapCanvas::MapCanvas(LevelDocument& doc, QWidget* parent) : QWidget(parent), doc
     FitSize();
     update();
   });
+  connect(&doc_, &LevelDocument::replaced, this, [this] {
+    selection_.reset();
+    highlight_.reset();
+  });
   FitSize();
 }
 
@@ -159,7 +163,11 @@ void MapCanvas::PaintMarkers(QPainter& p, const LevelData& d) const {
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
+  // The right button draws empty squares with the drawing tools: an eraser at hand.
+  const bool drawing = tool_ <= DrawTool::Fill;
+  if (event->button() != Qt::LeftButton && !(drawing && event->button() == Qt::RightButton)) return;
+  button_ = event->button();
+  drawKind_ = static_cast<int16_t>(button_ == Qt::RightButton ? 0 : kind_);
   const Square s = SquareAt(event->position().toPoint());
   const LevelData& d = doc_.Data();
   anchor_ = last_ = s;
@@ -168,7 +176,7 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
   switch (tool_) {
     case DrawTool::Pencil:
       dragName_ = "Draw";
-      Paint(*preview_, {s}, static_cast<int16_t>(kind_));
+      Paint(*preview_, {s}, drawKind_);
       break;
     case DrawTool::Line:
       dragName_ = "Line";
@@ -178,7 +186,7 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
       dragName_ = "Rectangle";
       break;
     case DrawTool::Fill:
-      Paint(*preview_, FloodSquares(d, s), static_cast<int16_t>(kind_));
+      Paint(*preview_, FloodSquares(d, s), drawKind_);
       doc_.Edit("Fill", *preview_);
       base_.reset();
       preview_.reset();
@@ -216,11 +224,11 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
 void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
   const Square s = SquareAt(event->position().toPoint());
   Q_EMIT hovered(s.x, s.y);
-  if (base_ && (event->buttons() & Qt::LeftButton)) Drag(s);
+  if (base_ && (event->buttons() & button_)) Drag(s);
 }
 
 void MapCanvas::Drag(Square s) {
-  const auto kind = static_cast<int16_t>(kind_);
+  const int16_t kind = drawKind_;
   switch (tool_) {
     case DrawTool::Pencil:  // a fast stroke skips squares: join them
       Paint(*preview_, LineSquares(last_, s), kind);
@@ -268,7 +276,7 @@ void MapCanvas::Drag(Square s) {
 }
 
 void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !base_) return;
+  if (event->button() != button_ || !base_) return;
   const LevelData after = *preview_;
   base_.reset();
   preview_.reset();

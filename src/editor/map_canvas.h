@@ -72,6 +72,8 @@ class MapCanvas : public QWidget {
   // A drag in progress: the level as it stood at the press, and what the drag made of it.
   std::optional<LevelData> base_, preview_;
   QString dragName_;
+  Qt::MouseButton button_ = Qt::LeftButton;
+  int16_t drawKind_ = 0;  // the kind the drag draws: the palette's, or empty for the right button
   Square anchor_, last_;
   std::optional<SlotRef> draggedSlot_;
   std::optional<Clip> moving_;  // the selection's squares while they are dragged

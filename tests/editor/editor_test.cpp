@@ -23,18 +23,18 @@ using namespace qb::editor;
 
 namespace {
 
-void Mouse(QWidget& w, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
-  const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+void Mouse(QWidget& w, QEvent::Type type, QPoint at, Qt::MouseButton button,
+           Qt::MouseButtons held) {
   QMouseEvent event(type, at, w.mapToGlobal(at), button, held, Qt::NoModifier);
   QApplication::sendEvent(&w, &event);
 }
 
 // Presses on `from`, moves to `to` and lets go there.
-void Drag(MainWindow& w, Square from, Square to) {
+void Drag(MainWindow& w, Square from, Square to, Qt::MouseButton button = Qt::LeftButton) {
   MapCanvas& c = w.Canvas();
-  Mouse(c, QEvent::MouseButtonPress, c.CentreOf(from), Qt::LeftButton);
-  Mouse(c, QEvent::MouseMove, c.CentreOf(to), Qt::LeftButton);
-  Mouse(c, QEvent::MouseButtonRelease, c.CentreOf(to), Qt::NoButton);
+  Mouse(c, QEvent::MouseButtonPress, c.CentreOf(from), button, button);
+  Mouse(c, QEvent::MouseMove, c.CentreOf(to), Qt::NoButton, button);
+  Mouse(c, QEvent::MouseButtonRelease, c.CentreOf(to), button, Qt::NoButton);
 }
 
 void Use(MainWindow& w, DrawTool tool, int kind = -1) {
@@ -105,6 +105,12 @@ void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
     states.push_back(Bytes(w));
   };
   const LevelData& d = w.Document().Data();
+  // Ctrl+wheel zooms about the mouse without marking anything; the plain wheel is the scroll's.
+  const int zoom = w.Canvas().Zoom();
+  QWheelEvent wheel(QPointF(30, 30), w.Canvas().mapToGlobal(QPointF(30, 30)), {}, {0, 240},
+                    Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&w.Canvas(), &wheel);
+  QVERIFY(w.Canvas().Zoom() > zoom && !w.Canvas().Highlighted());
 
   step("outline", [&] {
     Use(w, DrawTool::Rectangle, MetalWall);
@@ -169,6 +175,11 @@ void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
     Drag(w, {10, 10}, {19, 10});  // clamped: the view stays inside the level
   });
   QCOMPARE(d.StartViewX, 5);
+  step("erase", [&] {
+    Use(w, DrawTool::Pencil);
+    Drag(w, {39, 5}, {39, 6}, Qt::RightButton);
+  });
+  QCOMPARE(d.Square(39, 6), int16_t{Empty});
   step("title", [&] {
     w.Properties().TitleEdit()->setText("Made Here");
     Q_EMIT w.Properties().TitleEdit()->editingFinished();
