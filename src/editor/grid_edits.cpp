@@ -80,13 +80,20 @@ void Paint(LevelData& d, const std::vector<Square>& squares, int16_t kind) {
     if (Inside(d, s)) d.Square(s.x, s.y) = kind;
 }
 
-Clip CopyArea(const LevelData& d, Area area) {
+std::optional<Area> PartInside(const LevelData& d, Area area) {
   area.left = std::max(area.left, 0);
   area.top = std::max(area.top, 0);
-  area.right = std::min(area.right, d.GridWidth - 1);
-  area.bottom = std::min(area.bottom, d.GridHeight - 1);
+  area.right = std::min<int>(area.right, d.GridWidth - 1);
+  area.bottom = std::min<int>(area.bottom, d.GridHeight - 1);
+  if (area.right < area.left || area.bottom < area.top) return std::nullopt;
+  return area;
+}
+
+Clip CopyArea(const LevelData& d, Area whole) {
   Clip clip;
-  if (area.right < area.left || area.bottom < area.top) return clip;
+  const std::optional<Area> inside = PartInside(d, whole);
+  if (!inside) return clip;
+  const Area area = *inside;
   clip.width = area.Width();
   clip.height = area.Height();
   for (int y = area.top; y <= area.bottom; ++y)

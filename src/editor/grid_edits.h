@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "core/level_file.h"
@@ -22,6 +23,9 @@ struct Area {
   int Height() const { return bottom - top + 1; }
   bool Contains(Square s) const;
 };
+
+// The part of `area` that lies inside the level; nothing when none does.
+std::optional<Area> PartInside(const LevelData& d, Area area);
 
 // The squares of a straight line from `a` to `b`, both ends included, without gaps.
 std::vector<Square> LineSquares(Square a, Square b);

@@ -76,7 +76,8 @@ QRect MapCanvas::AreaRect(const Area& a) const {
 }
 
 void MapCanvas::SetSelection(std::optional<Area> area) {
-  selection_ = area;
+  // Only squares of the level can be selected, so a moved selection keeps its squares in step.
+  selection_ = area ? PartInside(doc_.Data(), *area) : std::nullopt;
   update();
 }
 
@@ -250,9 +251,9 @@ void MapCanvas::Drag(Square s) {
         Paint(*preview_, RectangleSquares(movingFrom_, true), Empty);
         const Square to{movingFrom_.left + s.x - anchor_.x, movingFrom_.top + s.y - anchor_.y};
         PasteClip(*preview_, *moving_, to);
-        selection_ = Area{to.x, to.y, to.x + moving_->width - 1, to.y + moving_->height - 1};
+        SetSelection(Area{to.x, to.y, to.x + moving_->width - 1, to.y + moving_->height - 1});
       } else {
-        selection_ = Area::Spanning(anchor_, s);
+        SetSelection(Area::Spanning(anchor_, s));
       }
       break;
     case DrawTool::Slots:  // a slot stays on the map however far the mouse goes

@@ -97,6 +97,13 @@ void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
   MainWindow w;
   w.show();
   QVERIFY(ProblemTexts(w).join("\n").contains("no active entrance"));
+  // A selection dragged from beyond the level's corner moves the squares it holds.
+  Use(w, DrawTool::Pencil, SoftWall);
+  Drag(w, {0, 0}, {0, 0});
+  Use(w, DrawTool::Select);
+  Drag(w, {-3, -3}, {1, 1});
+  Drag(w, {0, 0}, {2, 2});
+  QCOMPARE(w.Document().Data().Square(2, 2), int16_t{SoftWall});
   std::vector<std::vector<uint8_t>> states{Bytes(w)};
   // Every step is one undo step that changes the level.
   auto step = [&](const char* what, const std::function<void()>& act) {
