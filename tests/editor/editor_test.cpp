@@ -91,6 +91,18 @@ void EditorTest::openingAndSavingEveryShippedLevelGivesTheSameBytes() {
     }
   }
   QCOMPARE(levels, 160);
+
+  // An edited text level is printed anew under its author's comments, and reads back the same.
+  QVERIFY(w.OpenFile(QUORBIT_LEVEL_SOURCES "/Beginner1.txt"));
+  Use(w, DrawTool::Pencil, Lava);
+  Drag(w, {1, 1}, {1, 1});
+  const QString edited = out.filePath("Edited.txt");
+  QVERIFY(w.SaveTo(edited));
+  QVERIFY(FileContent(edited).startsWith("# "));
+  MainWindow reopened;
+  QVERIFY(reopened.OpenFile(edited));
+  QVERIFY(reopened.Document().Data() == w.Document().Data());
+  QCOMPARE(reopened.Document().Data().Square(1, 1), int16_t{Lava});
 }
 
 void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
