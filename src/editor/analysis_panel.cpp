@@ -152,10 +152,15 @@ void AnalysisPanel::Show(const analysis::Analysis& a) {
   others_->addItem(Q(NoToolsLine(a)));
   others_->addItem(Q(OneToolLine(a)));
   auto* space = new QListWidgetItem(Q(SpaceLine(a)), others_);
-  space->setData(kPlaceRole, QPoint(a.space.regionX, a.space.regionY));
+  // The region walls seal away is the one a designer must act on; without one, the largest
+  // region nobody entered.
+  const bool sealed = a.space.sealed > 0;
+  space->setData(kPlaceRole, sealed ? QPoint(a.space.sealedX, a.space.sealedY)
+                                    : QPoint(a.space.regionX, a.space.regionY));
   space->setToolTip("Click to see the region on the map.");
-  const QString why = QString("no character enters this region of %1 squares").arg(a.space.region);
-  for (const Place& p : a.space.regionSquares) marks.push_back({p.x, p.y, why});
+  const QString why =
+      QString("no character can reach this sealed region of %1 squares").arg(a.space.sealed);
+  for (const Place& p : a.space.sealedSquares) marks.push_back({p.x, p.y, why});
   SetMarks(std::move(marks));
 }
 
