@@ -3,18 +3,12 @@
 
 #include <string>
 
-#include "core/host.h"
+#include "core/silent_host.h"
 
 namespace qb {
 
-class FileHost : public Host {
+class FileHost : public SilentHost {
  public:
-  void PlaySound(std::string_view, int) override {}
-  void ShowScreen(Screen, const ScreenTexts&) override {}
-  void ShowMessage(const std::string&, const std::string&) override {}
-  void SetMusicFileName(const std::string&) override {}
-  void SendMusicCommand(MusicCommand) override {}
-  int MusicMode() override { return 0; }
   FileRead ReadFile(const std::string& path) override;
 };
 

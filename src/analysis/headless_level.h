@@ -8,20 +8,15 @@
 #include <vector>
 
 #include "core/game.h"
+#include "core/silent_host.h"
 
 namespace qb::analysis {
 
 // Plays nothing, shows nothing; reads only the one level file it holds.
-class LevelBytesHost : public Host {
+class LevelBytesHost : public SilentHost {
  public:
   LevelBytesHost(std::string name, std::vector<uint8_t> bytes)
       : name_(std::move(name)), bytes_(std::move(bytes)) {}
-  void PlaySound(std::string_view, int) override {}
-  void ShowScreen(Screen, const ScreenTexts&) override {}
-  void ShowMessage(const std::string&, const std::string&) override {}
-  void SetMusicFileName(const std::string&) override {}
-  void SendMusicCommand(MusicCommand) override {}
-  int MusicMode() override { return 0; }
   FileRead ReadFile(const std::string& path) override;
 
  private:

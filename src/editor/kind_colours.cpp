@@ -4,23 +4,12 @@
 #include <array>
 
 #include "core/game.h"
+#include "core/silent_host.h"
 #include "core/squares.h"
 #include "ui/desktop/qt_colour.h"
 
 namespace qb::editor {
 namespace {
-
-// Only to build a game whose tables the rules fill; nothing here is ever played.
-class SilentHost : public Host {
- public:
-  void PlaySound(std::string_view, int) override {}
-  void ShowScreen(Screen, const ScreenTexts&) override {}
-  void ShowMessage(const std::string&, const std::string&) override {}
-  void SetMusicFileName(const std::string&) override {}
-  void SendMusicCommand(MusicCommand) override {}
-  int MusicMode() override { return 0; }
-  FileRead ReadFile(const std::string&) override { return {}; }
-};
 
 std::array<QColor, kKindCount> GameColours() {
   SilentHost host;

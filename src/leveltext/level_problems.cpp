@@ -1,10 +1,11 @@
 // What the game and the level check say about a level held in memory, each with its square.
 #include "leveltext/level_problems.h"
 
+#include <cstdio>
 #include <memory>
-#include <regex>
 
 #include "core/game.h"
+#include "core/silent_host.h"
 #include "level/loader.h"
 #include "leveltext/level_check.h"
 
@@ -12,15 +13,9 @@ namespace qb::leveltext {
 namespace {
 
 // Hands the loader the level's bytes as if they were the file, and shows and plays nothing.
-class BytesHost : public Host {
+class BytesHost : public SilentHost {
  public:
   explicit BytesHost(const std::vector<uint8_t>& bytes) : bytes_(bytes) {}
-  void PlaySound(std::string_view, int) override {}
-  void ShowScreen(Screen, const ScreenTexts&) override {}
-  void ShowMessage(const std::string&, const std::string&) override {}
-  void SetMusicFileName(const std::string&) override {}
-  void SendMusicCommand(MusicCommand) override {}
-  int MusicMode() override { return 0; }
   FileRead ReadFile(const std::string&) override { return {bytes_, ""}; }
 
  private:
@@ -29,10 +24,14 @@ class BytesHost : public Host {
 
 // The messages name a square as "(x, y)"; the first such pair is the place to show.
 std::optional<std::pair<int, int>> NamedSquare(const std::string& message) {
-  static const std::regex pair(R"(\((-?\d{1,6}), (-?\d{1,6})\))");
-  std::smatch m;
-  if (!std::regex_search(message, m, pair)) return std::nullopt;
-  return std::make_pair(std::stoi(m[1].str()), std::stoi(m[2].str()));
+  for (std::size_t at = message.find('('); at != std::string::npos;
+       at = message.find('(', at + 1)) {
+    int x = 0, y = 0;
+    char close = 0;
+    if (std::sscanf(message.c_str() + at, "(%6d, %6d%c", &x, &y, &close) == 3 && close == ')')
+      return std::make_pair(x, y);
+  }
+  return std::nullopt;
 }
 
 }  // namespace
