@@ -35,7 +35,7 @@ tool="$build/bin/quorbit-level"
     for n in $(seq 1 20); do
       "$tool" render "$build/bin/Levels/$tier$n.lvl" -o "$pictures/$tier$n.png" --scale 2 > /dev/null
       idea=$(sed -n 's/^# Idea: *//p' "data/levels/$tier$n.txt" | head -n 1 | sed 's/|/\\|/g')
-      echo "| $n | ![$tier $n](levels/$tier$n.png) | ${idea:-?} | $("$tool" analyse "$build/bin/Levels/$tier$n.lvl" \
+      echo "| $n | ![$tier $n](levels/$tier$n.png) | ${idea^} | $("$tool" analyse "$build/bin/Levels/$tier$n.lvl" \
         --replay "data/solutions/$tier$n.replay" --markdown)"
     done
     echo
