@@ -8,14 +8,14 @@
 #include <QtTest>
 #include <sstream>
 
+#include "app/editor/analysis_panel.h"
+#include "app/editor/main_window.h"
+#include "app/editor/map_canvas.h"
+#include "app/editor/problems_panel.h"
+#include "app/editor/properties_panel.h"
+#include "app/editor/slots_panel.h"
+#include "app/editor/try_window.h"
 #include "core/squares.h"
-#include "editor/analysis_panel.h"
-#include "editor/main_window.h"
-#include "editor/map_canvas.h"
-#include "editor/problems_panel.h"
-#include "editor/properties_panel.h"
-#include "editor/slots_panel.h"
-#include "editor/try_window.h"
 #include "sim_run.h"
 
 using namespace qb;

@@ -7,9 +7,9 @@
 #include <QtTest>
 
 #include "analysis/headless.h"
+#include "app/editor/analysis_panel.h"
+#include "app/editor/try_window.h"
 #include "core/level_file.h"
-#include "editor/analysis_panel.h"
-#include "editor/try_window.h"
 #include "play/cycle.h"
 #include "play/replay.h"
 #include "support/level_builder.h"

@@ -3,8 +3,8 @@
 
 #include <optional>
 
+#include "app/editor/grid_edits.h"
 #include "core/level_file.h"
-#include "editor/grid_edits.h"
 
 namespace qb::editor {
 

@@ -1,12 +1,12 @@
 // The square kinds to draw with.
-#include "editor/palette_panel.h"
+#include "app/editor/palette_panel.h"
 
 #include <QPainter>
 #include <QPixmap>
 #include <QSignalBlocker>
 
+#include "app/editor/kind_colours.h"
 #include "core/squares.h"
-#include "editor/kind_colours.h"
 #include "leveltext/level_legend.h"
 
 namespace qb::editor {

@@ -1,5 +1,5 @@
 // The map of the level being edited and the drawing tools' mouse handling.
-#include "editor/map_canvas.h"
+#include "app/editor/map_canvas.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -7,9 +7,9 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "app/editor/kind_colours.h"
+#include "app/editor/level_document.h"
 #include "core/picture.h"
-#include "editor/kind_colours.h"
-#include "editor/level_document.h"
 #include "sim/teleport.h"
 
 namespace qb::editor {

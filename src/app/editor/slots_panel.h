@@ -4,7 +4,7 @@
 
 #include <QTableWidget>
 
-#include "editor/slot_places.h"
+#include "app/editor/slot_places.h"
 
 namespace qb::editor {
 

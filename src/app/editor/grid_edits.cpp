@@ -1,5 +1,5 @@
 // The shapes and area edits of the editor's drawing tools, on a level's grid.
-#include "editor/grid_edits.h"
+#include "app/editor/grid_edits.h"
 
 #include <algorithm>
 #include <cstdlib>

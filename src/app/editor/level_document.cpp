@@ -1,5 +1,5 @@
 // The level being edited: its data, its file, and the undo stack every change goes through.
-#include "editor/level_document.h"
+#include "app/editor/level_document.h"
 
 #include <QUndoCommand>
 

@@ -1,5 +1,5 @@
 // The level's settings panel.
-#include "editor/properties_panel.h"
+#include "app/editor/properties_panel.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -8,9 +8,9 @@
 #include <QSpinBox>
 #include <limits>
 
+#include "app/editor/grid_edits.h"
+#include "app/editor/level_document.h"
 #include "core/picture.h"
-#include "editor/grid_edits.h"
-#include "editor/level_document.h"
 #include "leveltext/level_legend.h"
 #include "leveltext/level_ranges.h"
 #include "leveltext/level_text.h"

@@ -1,7 +1,7 @@
 // quorbit-edit: the level editor. An optional argument names a level file to open.
 #include <QApplication>
 
-#include "editor/main_window.h"
+#include "app/editor/main_window.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);

@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QStatusBar>
 
-#include "editor/main_window.h"
+#include "app/editor/main_window.h"
 
 namespace qb::editor {
 

@@ -6,8 +6,8 @@
 #include <QMessageBox>
 #include <functional>
 
-#include "editor/grid_edits.h"
-#include "editor/level_document.h"
+#include "app/editor/grid_edits.h"
+#include "app/editor/level_document.h"
 
 class QActionGroup;
 class QDockWidget;

@@ -1,5 +1,5 @@
 // The editor's try window: its widgets, the level's load, the game timer and the attempt's end.
-#include "editor/try_window.h"
+#include "app/editor/try_window.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,10 +1,10 @@
 // The six entrance, trap and teleport slots.
-#include "editor/slots_panel.h"
+#include "app/editor/slots_panel.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
 
-#include "editor/level_document.h"
+#include "app/editor/level_document.h"
 
 namespace qb::editor {
 

@@ -1,6 +1,6 @@
 // The editor's analysis panel: runs the analysis of a level and its solution on a worker thread
 // and shows its figures, in the words of `quorbit-level analyse`.
-#include "editor/analysis_panel.h"
+#include "app/editor/analysis_panel.h"
 
 #include <QHeaderView>
 #include <QLabel>

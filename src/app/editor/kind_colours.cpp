@@ -1,5 +1,5 @@
 // The square kinds' colours, from the game's own colour table.
-#include "editor/kind_colours.h"
+#include "app/editor/kind_colours.h"
 
 #include <array>
 

@@ -1,9 +1,9 @@
 // The live list of the level's problems.
-#include "editor/problems_panel.h"
+#include "app/editor/problems_panel.h"
 
 #include <QFileInfo>
 
-#include "editor/level_document.h"
+#include "app/editor/level_document.h"
 #include "leveltext/level_problems.h"
 
 namespace qb::editor {

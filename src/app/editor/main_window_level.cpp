@@ -5,17 +5,12 @@
 #include <QFileInfo>
 #include <QMenuBar>
 
-#include "editor/main_window.h"
-#include "editor/map_canvas.h"
-
-#if __has_include("editor/try_window.h") && __has_include("editor/analysis_panel.h")
-#define QUORBIT_EDITOR_TRY_AND_ANALYSE 1
-#include "editor/analysis_panel.h"
-#include "editor/try_window.h"
-#endif
+#include "app/editor/analysis_panel.h"
+#include "app/editor/main_window.h"
+#include "app/editor/map_canvas.h"
+#include "app/editor/try_window.h"
 
 namespace qb::editor {
-#ifdef QUORBIT_EDITOR_TRY_AND_ANALYSE
 namespace {
 
 // Where a level's solution lives: beside it, with .replay for its extension.
@@ -26,11 +21,9 @@ QString SolutionPath(const QString& levelPath) {
 }
 
 }  // namespace
-#endif
 
 void MainWindow::BuildLevelMenu() {
   QMenu* level = menuBar()->addMenu("&Level");
-#ifdef QUORBIT_EDITOR_TRY_AND_ANALYSE
   AddAction(level, "tryIt", "&Try It", Qt::Key_F5, [this] {
     TryWindow window(doc_.Data(), SolutionPath(doc_.Path()), this);
     window.exec();
@@ -65,10 +58,6 @@ void MainWindow::BuildLevelMenu() {
     dock->raise();
     panel->Analyse(doc_.Data(), replay);
   });
-#else
-  // This build has no try window or analysis: the menu says so rather than vanish.
-  level->addAction("Try It and Analyse are not in this build")->setEnabled(false);
-#endif
 }
 
 }  // namespace qb::editor

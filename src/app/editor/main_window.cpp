@@ -1,5 +1,5 @@
 // The editor's window: its panels, its menus and the edits made from the menus.
-#include "editor/main_window.h"
+#include "app/editor/main_window.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -15,11 +15,11 @@
 #include <QToolBar>
 #include <algorithm>
 
-#include "editor/map_canvas.h"
-#include "editor/palette_panel.h"
-#include "editor/problems_panel.h"
-#include "editor/properties_panel.h"
-#include "editor/slots_panel.h"
+#include "app/editor/map_canvas.h"
+#include "app/editor/palette_panel.h"
+#include "app/editor/problems_panel.h"
+#include "app/editor/properties_panel.h"
+#include "app/editor/slots_panel.h"
 #include "leveltext/level_legend.h"
 
 namespace qb::editor {

@@ -6,9 +6,9 @@
 #include <optional>
 #include <vector>
 
+#include "app/editor/grid_edits.h"
+#include "app/editor/slot_places.h"
 #include "core/level_file.h"
-#include "editor/grid_edits.h"
-#include "editor/slot_places.h"
 
 class QPainter;
 

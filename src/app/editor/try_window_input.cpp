@@ -12,8 +12,8 @@
 #include <QMessageBox>
 #include <QScrollBar>
 
+#include "app/editor/try_window.h"
 #include "draw/drawing.h"
-#include "editor/try_window.h"
 #include "play/commands.h"
 #include "play/level_commands.h"
 #include "play/player_acts.h"

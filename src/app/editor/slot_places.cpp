@@ -1,5 +1,5 @@
 // The six entrance, trap and teleport slots of a level, addressed one at a time.
-#include "editor/slot_places.h"
+#include "app/editor/slot_places.h"
 
 #include "core/squares.h"
 
