@@ -176,10 +176,20 @@ void EditorTest::aLevelMadeFromNothingUndoesRedoesSavesAndWins() {
   QCOMPARE(d.Square(29, 25), int16_t{Empty});
   step("cut", [&] { w.Action("cut")->trigger(); });
   QCOMPARE(d.Square(29, 22), int16_t{Empty});
+  // Under the walkway: the lower floor row and the air below it swap, then both go.
+  Drag(w, {10, 31}, {10, 32});
+  step("flip vertically", [&] { w.Action("flipV")->trigger(); });
+  QCOMPARE(d.Square(10, 31), int16_t{Empty});
+  QCOMPARE(d.Square(10, 32), int16_t{SoftWall});
+  step("delete", [&] { w.Action("delete")->trigger(); });
+  QCOMPARE(d.Square(10, 32), int16_t{Empty});
 
   step("width", [&] { SetSpin(w, "width", 45); });
   QCOMPARE(d.GridWidth, int16_t{45});
   QCOMPARE(d.Square(39, 30), int16_t{MetalWall});
+  step("height", [&] { SetSpin(w, "height", 42); });
+  QCOMPARE(d.GridHeight, int16_t{42});
+  QCOMPARE(d.Square(20, 39), int16_t{MetalWall});
   step("place entrance", [&] {
     w.Slots().setCurrentCell(0, 0);
     QCOMPARE(w.Canvas().Tool(), DrawTool::Slots);
