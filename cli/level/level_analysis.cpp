@@ -80,24 +80,21 @@ void PrintJson(std::ostream& out, const std::string& level, const Analysis& a, d
 // shortcuts and space.
 void PrintMarkdown(std::ostream& out, const Analysis& a, const std::vector<int>& stock) {
   std::string redundant, wins;
-  int alone = 0, shifted = 0;
-  Presses presses;
-  for (const PressFigures& f : a.presses) {
+  for (const PressFigures& f : a.presses)
     if (f.redundant)
       redundant +=
           (redundant.empty() ? "" : ", ") + std::to_string(f.press.cycle) + " " + f.press.letter;
-    alone = presses.empty() ? f.alone.Width() : std::min(alone, f.alone.Width());
-    shifted = presses.empty() ? f.shifted.Width() : std::min(shifted, f.shifted.Width());
-    presses.push_back(f.press);
-  }
+  const Narrowest narrowest = NarrowestWindows(a);
   for (const SingleToolWins& w : a.singleTool)
     if (!w.cycles.empty()) wins += (wins.empty() ? "" : ", ") + SingleToolText(w);
   out << EndName(a.result) << " in " << a.result.cycles << " of " << a.limit << " | "
       << a.presses.size() << " | "
-      << (presses.empty() ? "-" : std::to_string(alone) + " / " + std::to_string(shifted)) << " | "
-      << CountWidthOne(a, false) << " / " << CountWidthOne(a, true) << " | "
-      << SpareTools(stock, presses) << " | " << a.result.saved - a.needed << " | " << std::fixed
-      << std::setprecision(0) << Percent(a.limit - a.result.cycles, a.limit) << "% | "
+      << (a.presses.empty()
+              ? "-"
+              : std::to_string(narrowest.alone) + " / " + std::to_string(narrowest.shifted))
+      << " | " << CountWidthOne(a, false) << " / " << CountWidthOne(a, true) << " | "
+      << SpareTools(stock, SolutionPresses(a)) << " | " << a.result.saved - a.needed << " | "
+      << std::fixed << std::setprecision(0) << Percent(a.limit - a.result.cycles, a.limit) << "% | "
       << (redundant.empty() ? "none" : redundant) << " | " << (a.noTools.Won() ? "won" : "lost")
       << " | " << (wins.empty() ? "none" : wins) << " | " << std::setprecision(1)
       << Percent(a.space.visited, a.space.area) << "% | " << a.space.sealed << " |\n";

@@ -5,6 +5,7 @@
 #include <map>
 #include <ostream>
 
+#include "analysis/analysis_text.h"
 #include "analysis/limits.h"
 #include "command_input.h"
 #include "level_analysis.h"
@@ -21,23 +22,16 @@ constexpr long kDefaultSearchStates = 400000;
 // The level's figures on one line: what a player feels of it.
 void PrintFigures(std::ostream& out, const LevelUnderTest& level) {
   const Analysis& a = *level.analysis;
-  int alone = 1 << 30, shifted = 1 << 30, oneCycle = 0;
-  Presses presses;
-  for (const PressFigures& f : a.presses) {
-    alone = std::min(alone, f.alone.Width());
-    shifted = std::min(shifted, f.shifted.Width());
-    oneCycle += f.alone.Width() == 1 || f.shifted.Width() == 1;
-    presses.push_back(f.press);
-  }
+  const Narrowest narrowest = NarrowestWindows(a);
   out << "presses " << a.presses.size();
   if (!a.presses.empty())
-    out << ", narrowest window " << alone << " (with the later ones " << shifted << ")"
-        << ", one-cycle " << oneCycle;
-  out << ", spare " << SpareTools(level.stock, presses) << ", margin " << a.result.saved - a.needed
-      << ", time left " << std::fixed << std::setprecision(0)
-      << (a.limit ? 100.0 * (a.limit - a.result.cycles) / a.limit : 0.0) << "%, visited "
-      << std::setprecision(1) << (a.space.area ? 100.0 * a.space.visited / a.space.area : 0.0)
-      << "%, sealed " << a.space.sealed << " of " << a.space.area;
+    out << ", narrowest window " << narrowest.alone << " (with the later ones " << narrowest.shifted
+        << "), one-cycle " << CountOneCycle(a);
+  out << ", spare " << SpareTools(level.stock, SolutionPresses(a)) << ", margin "
+      << a.result.saved - a.needed << ", time left " << std::fixed << std::setprecision(0)
+      << Percent(a.limit - a.result.cycles, a.limit) << "%, visited " << std::setprecision(1)
+      << Percent(a.space.visited, a.space.area) << "%, sealed " << a.space.sealed << " of "
+      << a.space.area;
   if (level.twoPressSearch)
     out << ", two-press search "
         << (level.twoPressSearch->result == SolveResult::Found        ? "wins"

@@ -146,6 +146,22 @@ SpaceUse MeasureSpace(const Game& start, const std::vector<bool>& visited) {
   return s;
 }
 
+Presses SolutionPresses(const Analysis& a) {
+  Presses presses;
+  for (const PressFigures& f : a.presses) presses.push_back(f.press);
+  return presses;
+}
+
+Narrowest NarrowestWindows(const Analysis& a) {
+  if (a.presses.empty()) return {};
+  Narrowest n{a.presses[0].alone.Width(), a.presses[0].shifted.Width()};
+  for (const PressFigures& f : a.presses) {
+    n.alone = std::min(n.alone, f.alone.Width());
+    n.shifted = std::min(n.shifted, f.shifted.Width());
+  }
+  return n;
+}
+
 Analysis Analyse(const Game& start, const Presses& solution) {
   Analysis a;
   const Replayer r(start, solution);

@@ -54,6 +54,14 @@ struct Analysis {
   long runs = 0;  // plays of the level the figures took
 };
 
+// The presses of the solution analysed, in its order.
+Presses SolutionPresses(const Analysis& a);
+// The narrowest window of any press, moved alone and moved with the later ones; 0 without presses.
+struct Narrowest {
+  int alone = 0, shifted = 0;
+};
+Narrowest NarrowestWindows(const Analysis& a);
+
 // `start`: a headless game with the level just loaded (MakeHeadless before the load).
 Analysis Analyse(const Game& start, const Presses& solution);
 

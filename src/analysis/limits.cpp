@@ -29,6 +29,14 @@ int SpareTools(const std::vector<int>& stock, const Presses& presses) {
   return spare;
 }
 
+bool IsOneCycle(const PressFigures& f) {
+  return f.alone.Width() == 1 || f.shifted.Width() == 1;
+}
+
+int CountOneCycle(const Analysis& a) {
+  return static_cast<int>(std::count_if(a.presses.begin(), a.presses.end(), IsOneCycle));
+}
+
 namespace {
 
 std::string PressName(const PressFigures& f) {
@@ -37,14 +45,11 @@ std::string PressName(const PressFigures& f) {
 
 // The window rules: the narrowest widths, and the one-cycle presses where a tier allows some.
 void CheckWindows(const Analysis& a, const TierLimits& l, std::vector<std::string>& out) {
-  int oneCycle = 0;
   bool previousOne = false;
   for (const PressFigures& f : a.presses) {
-    const bool one = f.alone.Width() == 1 || f.shifted.Width() == 1;
-    if (one && l.oneCycleAllowed) {
-      if (previousOne) out.push_back(PressName(f) + " is the second one-cycle press in a row");
-      ++oneCycle;
-    }
+    const bool one = IsOneCycle(f);
+    if (one && previousOne && l.oneCycleAllowed)
+      out.push_back(PressName(f) + " is the second one-cycle press in a row");
     previousOne = one;
     if (f.alone.Width() < l.narrowestWindow)
       out.push_back(PressName(f) + " has a window of " + std::to_string(f.alone.Width()) +
@@ -55,7 +60,8 @@ void CheckWindows(const Analysis& a, const TierLimits& l, std::vector<std::strin
                     std::to_string(l.narrowestShifted));
     if (f.redundant) out.push_back(PressName(f) + " is redundant: the level is won without it");
   }
-  if (4 * oneCycle > static_cast<int>(a.presses.size()))
+  if (const int oneCycle = CountOneCycle(a);
+      l.oneCycleAllowed && 4 * oneCycle > static_cast<int>(a.presses.size()))
     out.push_back(std::to_string(oneCycle) + " of " + std::to_string(a.presses.size()) +
                   " presses have a one-cycle window, more than a quarter");
 }
@@ -97,8 +103,7 @@ std::vector<std::string> Breaches(const LevelUnderTest& level) {
   const TierLimits l = LimitsOfTier(level.tier);
   if (!a.result.Won()) return {"the solution does not win"};
   CheckWindows(a, l, out);
-  Presses presses;
-  for (const PressFigures& f : a.presses) presses.push_back(f.press);
+  const Presses presses = SolutionPresses(a);
   // A walking lesson has no tools to spare.
   const bool hasTools =
       std::any_of(level.stock.begin(), level.stock.end(), [](int n) { return n > 0; });

@@ -42,6 +42,10 @@ struct LevelUnderTest {
 // Every limit the level breaks, one sentence each; none when it keeps them all.
 std::vector<std::string> Breaches(const LevelUnderTest& level);
 
+// A press that must land in one exact cycle, moved alone or with the later presses.
+bool IsOneCycle(const PressFigures& f);
+int CountOneCycle(const Analysis& a);
+
 // The spare tools: over the tool kinds the solution presses, the stock minus the presses.
 int SpareTools(const std::vector<int>& stock, const Presses& presses);
 
